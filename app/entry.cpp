@@ -1,0 +1,80 @@
+#include "app/entry.h"
+
+#include "app/application.h"
+#include "app/commandline.h"
+#include "app/display.h"
+#include "app/notice.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QVariant>
+
+namespace {
+
+// The toolkit is not to look at any argument: "-style" and the like are plain text here. It holds on to both of these
+// for as long as the application object lives.
+int argumentCount = 0;
+char emptyArgument[] = "";
+char *arguments[] = {emptyArgument, nullptr};
+
+// The toolkit's remarks on the environment (a missing XDG_RUNTIME_DIR, say) would turn up in the mail of every cron
+// job.
+class WithoutRemarks final
+{
+public:
+    WithoutRemarks() { s_handler = qInstallMessageHandler(&WithoutRemarks::handle); }
+    ~WithoutRemarks() { qInstallMessageHandler(s_handler); }
+    Q_DISABLE_COPY(WithoutRemarks)
+
+private:
+    static void handle(QtMsgType type, const QMessageLogContext &context, const QString &message)
+    {
+        if (type == QtDebugMsg || type == QtFatalMsg)
+            s_handler(type, context, message);
+    }
+
+    inline static QtMessageHandler s_handler = nullptr;
+};
+
+qint32 verifyForScript(const QString &commandLine)
+{
+    const WithoutRemarks withoutRemarks;
+    Application application(argumentCount, arguments);
+    return runCommandLine(commandLine);
+}
+
+int openWindow(const QString &file)
+{
+    Application application(argumentCount, arguments);
+    if (!file.isEmpty())
+        application.setProperty("AUTO_ADD", file);
+    return QApplication::exec();
+}
+
+// The path with nothing but its relativity taken away: the run changes its working directory before it opens the file.
+QString anchored(const QString &path)
+{
+    return QFileInfo(path).isAbsolute() ? path : QFileInfo(path).absoluteFilePath();
+}
+
+} // namespace
+
+int runProgram(const QString &commandLine)
+{
+    // A folder exists too, so its path opens the window; that is meant.
+    const bool isFile = !commandLine.isNull() && QFile::exists(commandLine);
+    const bool isWindowRun = isFile || commandLine.isEmpty();
+
+    if (!displayIsAvailable()) {
+        if (isWindowRun) {
+            writeToStandardError(QStringLiteral("orv: no display to open a window on. "
+                                                "To verify a file without one: orv /a ALGORITHM /c CHECKSUM /f FILE"));
+            return -1;
+        }
+        doWithoutDisplay();
+    }
+
+    if (!isWindowRun)
+        return verifyForScript(commandLine);
+    return openWindow(isFile ? anchored(commandLine) : QString());
+}

@@ -1,0 +1,40 @@
+# Debian's packages for building and for testing, and a function that installs those that are missing. To be sourced.
+
+# shellcheck disable=SC2034  # the arrays are for whoever sources this
+build_packages=(
+    g++ cmake ninja-build pkg-config
+    qtbase5-dev qtbase5-dev-tools libxcb1-dev
+    qt5-style-plugin-plastique fonts-dejavu-core
+)
+test_packages=(
+    xvfb openbox xdotool x11-utils
+    qt6-base-dev libgl-dev
+    clang-format clang-tidy
+)
+
+# install_missing PACKAGE...: quiet when nothing is missing.
+install_missing() {
+    local missing=() package
+    for package in "$@"; do
+        [[ $(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null) == installed ]] || missing+=("$package")
+    done
+    [[ ${#missing[@]} -gt 0 ]] || return 0
+
+    local as_root=()
+    if [[ $(id -u) -ne 0 ]]; then
+        command -v sudo >/dev/null || {
+            echo "These packages are missing, and there is no sudo to install them with: ${missing[*]}" >&2
+            return 1
+        }
+        as_root=(sudo)
+    fi
+    echo "Installing ${missing[*]}" >&2
+    local log
+    log=$(mktemp)
+    if ! { "${as_root[@]}" apt-get update && "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y --no-install-recommends "${missing[@]}"; } >"$log" 2>&1 </dev/null; then
+        cat "$log" >&2
+        return 1
+    fi
+    rm -f "$log"
+}

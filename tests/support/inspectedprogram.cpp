@@ -1,0 +1,159 @@
+#include "tests/support/inspectedprogram.h"
+
+#include <QDeadlineTimer>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QLocalSocket>
+#include <QTest>
+
+#include <unistd.h>
+#include <utility>
+
+InspectedWidget::InspectedWidget(QJsonObject description)
+    : m_description(std::move(description))
+{
+}
+
+QString InspectedWidget::className() const
+{
+    return m_description.value(QLatin1String("class")).toString();
+}
+
+QString InspectedWidget::property(const char *name) const
+{
+    return m_description.value(QLatin1String("properties")).toObject().value(QLatin1String(name)).toString();
+}
+
+bool InspectedWidget::isExposed() const
+{
+    return m_description.value(QLatin1String("exposed")).toBool();
+}
+
+QRect InspectedWidget::geometry() const
+{
+    return {m_description.value(QLatin1String("x")).toInt(), m_description.value(QLatin1String("y")).toInt(),
+            m_description.value(QLatin1String("width")).toInt(), m_description.value(QLatin1String("height")).toInt()};
+}
+
+QStringList InspectedWidget::buttons() const
+{
+    return m_description.value(QLatin1String("buttons")).toVariant().toStringList();
+}
+
+QString InspectedWidget::defaultButton() const
+{
+    return m_description.value(QLatin1String("defaultButton")).toString();
+}
+
+InspectedWidget InspectedWidget::find(const QString &objectName) const
+{
+    const QJsonArray children = m_description.value(QLatin1String("children")).toArray();
+    for (const QJsonValue &child : children) {
+        const InspectedWidget widget(child.toObject());
+        if (widget.objectName() == objectName)
+            return widget;
+        const InspectedWidget below = widget.find(objectName);
+        if (!below.isNull())
+            return below;
+    }
+    return {};
+}
+
+InspectedProgram::InspectedProgram(const QString &executable)
+    : m_executable(executable)
+    , m_environment(QProcessEnvironment::systemEnvironment())
+{
+    // Another user must be able to make the socket.
+    QFile::setPermissions(m_socketFolder.path(), QFile::Permissions(0x7777));
+    setVariable(QStringLiteral("QT_PLUGIN_PATH"), QStringLiteral(ORVANTA_TEST_PLUGINS));
+    setVariable(QStringLiteral("QT_QPA_GENERIC_PLUGINS"), QStringLiteral("inspector"));
+    setVariable(QStringLiteral("ORVANTA_INSPECTOR"), m_socketFolder.filePath(QStringLiteral("socket")));
+    setVariable(QStringLiteral("QT_LOGGING_TO_CONSOLE"), QStringLiteral("1"));
+}
+
+InspectedProgram::~InspectedProgram()
+{
+    if (isRunning()) {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+}
+
+void InspectedProgram::setVariable(const QString &name, const QString &value)
+{
+    m_environment.insert(name, value);
+}
+
+void InspectedProgram::removeVariable(const QString &name)
+{
+    m_environment.remove(name);
+}
+
+void InspectedProgram::start(const QStringList &arguments)
+{
+    m_process.setProcessEnvironment(m_environment);
+    if (m_unprivileged && ::geteuid() == 0) {
+        const QStringList asNobody{QStringLiteral("--reuid=65534"), QStringLiteral("--regid=65534"),
+                                   QStringLiteral("--clear-groups"), m_executable};
+        m_process.start(QStringLiteral("setpriv"), asNobody + arguments);
+    } else {
+        m_process.start(m_executable, arguments);
+    }
+    QVERIFY2(m_process.waitForStarted(), "the program does not start");
+}
+
+int InspectedProgram::exitCode()
+{
+    constexpr int none = -1000;
+    if (isRunning() && !m_process.waitForFinished(60000))
+        return none;
+    return m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : none;
+}
+
+QByteArray InspectedProgram::standardError()
+{
+    return m_process.readAllStandardError();
+}
+
+QList<InspectedWidget> InspectedProgram::windows() const
+{
+    QLocalSocket socket;
+    socket.connectToServer(m_environment.value(QStringLiteral("ORVANTA_INSPECTOR")));
+    if (!socket.waitForConnected(1000))
+        return {};
+    QByteArray answer;
+    QElapsedTimer elapsed;
+    elapsed.start();
+    while (socket.state() == QLocalSocket::ConnectedState && elapsed.elapsed() < 5000) {
+        socket.waitForReadyRead(200);
+        answer += socket.readAll();
+    }
+    answer += socket.readAll();
+
+    QList<InspectedWidget> widgets;
+    const QJsonArray descriptions = QJsonDocument::fromJson(answer).array();
+    for (const QJsonValue &description : descriptions)
+        widgets.append(InspectedWidget(description.toObject()));
+    return widgets;
+}
+
+InspectedWidget InspectedProgram::waitForWindow(const QString &title)
+{
+    const QDeadlineTimer deadline(30000);
+    while (!deadline.hasExpired() && m_process.state() != QProcess::NotRunning) {
+        const auto all = windows();
+        for (const InspectedWidget &window : all) {
+            if (window.property("windowTitle") == title && window.isExposed())
+                return window;
+        }
+        m_process.waitForFinished(50);
+    }
+    return {};
+}
+
+void pressKey(const QString &key)
+{
+    QCOMPARE(QProcess::execute(QStringLiteral("xdotool"), {QStringLiteral("key"), key}), 0);
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+/// The checksum of a file by another program, md5sum or sha1sum: lower-case digits. Fails the running test and returns
+/// nothing if that program fails.
+QByteArray checksumBy(const QString &program, const QString &fileName);
+
+/// The checksum that md5sum or sha1sum finds for `length` zero bytes.
+QByteArray zerosChecksumBy(const QString &program, qint64 length);
