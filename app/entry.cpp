@@ -3,6 +3,7 @@
 #include "app/application.h"
 #include "app/commandline.h"
 #include "app/display.h"
+#include "app/lastresort.h"
 #include "app/notice.h"
 
 #include <QFile>
@@ -48,6 +49,7 @@ int openWindow(const QString &file)
     Application application(argumentCount, arguments);
     if (!file.isEmpty())
         application.setProperty("AUTO_ADD", file);
+    application.init();
     return QApplication::exec();
 }
 
@@ -57,9 +59,7 @@ QString anchored(const QString &path)
     return QFileInfo(path).isAbsolute() ? path : QFileInfo(path).absoluteFilePath();
 }
 
-} // namespace
-
-int runProgram(const QString &commandLine)
+int run(const QString &commandLine)
 {
     // A folder exists too, so its path opens the window; that is meant.
     const bool isFile = !commandLine.isNull() && QFile::exists(commandLine);
@@ -73,8 +73,21 @@ int runProgram(const QString &commandLine)
         }
         doWithoutDisplay();
     }
-
     if (!isWindowRun)
         return verifyForScript(commandLine);
     return openWindow(isFile ? anchored(commandLine) : QString());
+}
+
+} // namespace
+
+int runProgram(const QString &commandLine)
+{
+    // By the time a handler runs, unwinding has ended the application object and saved the settings.
+    try {
+        return run(commandLine);
+    } catch (const char *text) {
+        return reportKnownError(text);
+    } catch (...) {
+        return reportUnknownError();
+    }
 }

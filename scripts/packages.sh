@@ -9,7 +9,7 @@ build_packages=(
 test_packages=(
     xvfb openbox xdotool x11-utils
     qt6-base-dev libgl-dev
-    clang-format clang-tidy
+    clang clang-format clang-tidy libclang-rt-14-dev
 )
 
 # install_missing PACKAGE...: quiet when nothing is missing.

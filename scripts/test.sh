@@ -1,9 +1,11 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds, and runs the tests: scripts/test.sh [release|qt6|asan|tree]...   (all by default)
+# Installs what is missing, builds, and runs the tests: scripts/test.sh [release|qt6|asan|fuzz|tree]...   (all by default)
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
 install_missing "${build_packages[@]}" "${test_packages[@]}"
+
+folders=(app checksum settings)
 
 # test_preset NAME: warnings are errors.
 test_preset() {
@@ -16,19 +18,18 @@ test_preset() {
 # What is looked at without running it: format, include directions, clang-tidy.
 test_tree() {
     echo "== tree"
-    mapfile -t sources < <(git ls-files -- '*.cpp' '*.h')
-    clang-format --dry-run -Werror "${sources[@]}"
+    find "${folders[@]}" tests bench fuzz -name '*.cpp' -o -name '*.h' | xargs clang-format --dry-run -Werror
     scripts/check-includes.sh
     cmake --preset release -DORVANTA_WARNINGS_AS_ERRORS=ON >/dev/null
     cmake --build --preset release >/dev/null # generated headers
-    git ls-files -- {app,checksum,settings,locale,update,ui}/'*.cpp' ':!*_windows.cpp' |
+    find "${folders[@]}" -name '*.cpp' ! -name '*_windows.cpp' |
         xargs -P 2 -n 2 clang-tidy --quiet -p build/release 2>/dev/null
 }
 
-for part in "${@:-release qt6 asan tree}"; do
+for part in "${@:-release qt6 asan fuzz tree}"; do
     for name in $part; do
         case $name in
-        release | qt6 | asan) test_preset "$name" ;;
+        release | qt6 | asan | fuzz) test_preset "$name" ;;
         tree) test_tree ;;
         *)
             echo "test.sh: no such part: $name" >&2

@@ -153,6 +153,34 @@ private Q_SLOTS:
         QCOMPARE(program.exitCode(), 0);
     }
 
+    void everyRunSavesSettingsWithoutANameWhereItStands()
+    {
+        QVERIFY(QDir(m_folder.filePath(QStringLiteral("config"))).removeRecursively());
+        InspectedProgram program(m_executable);
+        withoutDisplay(program);
+        startIn(program, {QStringLiteral("/a md5 /c 0 /f sample.bin")});
+        QCOMPARE(program.exitCode(), 1);
+        QCOMPARE(QDir(m_folder.filePath(QStringLiteral("config"))).entryList(QDir::Files | QDir::Hidden),
+                 QStringList{QStringLiteral(".xml")});
+        QFile file(m_folder.filePath(QStringLiteral("config/.xml")));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), QByteArray("<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<Settings version=\"\"/>\n"));
+    }
+
+    void aFolderThatCannotBeWrittenChangesNoResult()
+    {
+        const QByteArray folder = QFile::encodeName(m_folder.filePath(QStringLiteral("folder")));
+        QCOMPARE(::chmod(folder.constData(), 0555), 0);
+        InspectedProgram program(m_executable);
+        withoutDisplay(program);
+        program.setUnprivileged();
+        program.setWorkingDirectory(m_folder.filePath(QStringLiteral("folder")));
+        program.start({QStringLiteral("/a md5 /c 0 /f nothing")});
+        QCOMPARE(program.exitCode(), 255);
+        QCOMPARE(program.standardError(), "File 'nothing' not found.\ncould not save: " + folder + "/config/.xml\n");
+        QCOMPARE(::chmod(folder.constData(), 0755), 0);
+    }
+
     void namesInOtherScriptsAreFoundInTheBareLocale()
     {
         InspectedProgram program(m_executable);

@@ -86,6 +86,7 @@ public:
     explicit Inspector(const QString &socketName)
     {
         connect(&m_server, &QLocalServer::newConnection, this, &Inspector::answer);
+        QLocalServer::removeServer(socketName);
         m_server.listen(socketName);
     }
 
@@ -101,6 +102,17 @@ private:
     QLocalServer m_server;
 };
 
+// Lets an exception out of an event handler, once per process, if the test asks for one.
+void throwIfAsked()
+{
+    const QByteArray kind = qgetenv("ORVANTA_INSPECTOR_THROWS");
+    qunsetenv("ORVANTA_INSPECTOR_THROWS");
+    if (kind == "character string")
+        throw "thrown by a test";
+    if (kind == "text")
+        throw QStringLiteral("thrown by a test");
+}
+
 } // namespace
 
 class InspectorPlugin final : public QGenericPlugin
@@ -111,6 +123,7 @@ class InspectorPlugin final : public QGenericPlugin
 public:
     QObject *create(const QString &, const QString &) override
     {
+        QTimer::singleShot(0, qApp, throwIfAsked);
         return new Inspector(qEnvironmentVariable("ORVANTA_INSPECTOR")); // the toolkit owns it
     }
 };

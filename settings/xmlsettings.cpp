@@ -1,0 +1,167 @@
+#include "settings/xmlsettings.h"
+
+#include "settings/replacefile.h"
+#include "settings/settingsreader.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QDir>
+#include <QMutexLocker>
+#include <QRegularExpression>
+#include <QStringList>
+
+#include <algorithm>
+
+namespace {
+
+const QString idAttribute = QStringLiteral("id");
+
+QStringList pathOf(const QString &name)
+{
+    return name.split(QLatin1Char('/'));
+}
+
+// The first with this id among `element` and what follows it, whatever its tag, up to the first node that is no
+// element; a null element if there is none.
+QDomElement siblingWithId(const QDomElement &element, const QString &id)
+{
+    for (QDomElement sibling = element; !sibling.isNull(); sibling = sibling.nextSibling().toElement()) {
+        if (sibling.attribute(idAttribute) == id)
+            return sibling;
+    }
+    return {};
+}
+
+QDomNode firstText(const QDomElement &element)
+{
+    QDomNode child = element.firstChild();
+    while (!child.isNull() && !child.isText())
+        child = child.nextSibling();
+    return child;
+}
+
+// What the document would write and no reader could read again, for the next start to find nothing: a tag that is no
+// name, and a character that XML does not have.
+bool canBeTag(const QString &part)
+{
+    const auto isNameCharacter = [](QChar character) {
+        return character.isLetterOrNumber() || QStringLiteral("_-.").contains(character);
+    };
+    return !part.isEmpty() && (part.at(0).isLetter() || part.at(0) == QLatin1Char('_')) &&
+           std::all_of(part.begin(), part.end(), isNameCharacter);
+}
+
+QString withoutForbiddenCharacters(const QString &text)
+{
+    static const QRegularExpression forbidden(QStringLiteral("[^\\t\\n\\r\\x{20}-\\x{fffd}\\x{10000}-\\x{10ffff}]"));
+    return QString(text).remove(forbidden);
+}
+
+} // namespace
+
+XmlSettings::XmlSettings(const QString &profileName)
+    : m_extension(QStringLiteral(".xml"))
+{
+    m_document.appendChild(m_document.createProcessingInstruction(
+        QStringLiteral("xml"), QStringLiteral("version=\"1.0\" encoding=\"utf-8\"")));
+    m_root = m_document.createElement(settingsTag);
+    m_document.appendChild(m_root);
+    setProfile(profileName);
+}
+
+XmlSettings::~XmlSettings() = default;
+
+void XmlSettings::setProfile(const QString &name)
+{
+    const QString folder = QStringLiteral("config");
+    if (!QDir(folder).exists())
+        QDir().mkpath(folder);
+    m_filePath = QDir::currentPath() + QLatin1Char('/') + folder + QLatin1Char('/') + name + m_extension;
+}
+
+void XmlSettings::load()
+{
+    const QMutexLocker locker(&m_mutex);
+    const QDomElement settings = readSettings(settingsFileContent(m_filePath));
+    if (settings.isNull())
+        return;
+    // Only the element moves; the declaration stays the store's own.
+    const QDomElement root = m_document.importNode(settings, true).toElement();
+    m_document.replaceChild(root, m_root);
+    m_root = root;
+}
+
+void XmlSettings::save()
+{
+    const QMutexLocker locker(&m_mutex);
+    m_root.setAttribute(QStringLiteral("version"), QCoreApplication::applicationVersion());
+    switch (replaceFile(m_filePath, m_document.toString(2).toUtf8())) {
+    case ReplaceResult::Replaced:
+        break;
+    case ReplaceResult::NotOpened:
+        qDebug().noquote().nospace() << "could not save: " << m_filePath;
+        break;
+    case ReplaceResult::NotWritten:
+        qDebug().noquote().nospace() << "could not save all data in: " << m_filePath;
+        break;
+    }
+}
+
+QVariant XmlSettings::value(const QString &name, const QVariant &defaultValue, const QString &id)
+{
+    const QMutexLocker locker(&m_mutex);
+    QDomElement element = m_root;
+    const QStringList path = pathOf(name);
+    for (const QString &part : path) {
+        element = element.firstChildElement(part);
+        if (element.isNull())
+            return defaultValue;
+    }
+
+    if (!id.isEmpty())
+        element = siblingWithId(element, id);
+    else if (element.hasAttribute(idAttribute))
+        return defaultValue; // visible only to those who name its id; this is meant
+
+    const QDomNode text = firstText(element);
+    return text.isNull() ? defaultValue : QVariant(text.nodeValue());
+}
+
+QVariant XmlSettings::value(qint32 key, const QVariant &defaultValue, const QString &id)
+{
+    const QMutexLocker locker(&m_mutex);
+    return value(keyName(key), defaultValue, id);
+}
+
+void XmlSettings::setValue(const QString &name, const QVariant &value, const QString &id)
+{
+    const QMutexLocker locker(&m_mutex);
+    QDomElement element = m_root;
+    const QStringList path = pathOf(name);
+    for (const QString &part : path) {
+        QDomElement child = element.firstChildElement(part);
+        if (child.isNull()) {
+            if (!canBeTag(part))
+                return;
+            child = m_document.createElement(part);
+            element.appendChild(child);
+        }
+        element = child;
+    }
+
+    // Where nothing has this id, the first element is re-labelled: a new id takes over, it does not add. This is meant.
+    const QDomElement labelled = id.isEmpty() ? QDomElement() : siblingWithId(element, id);
+    if (!labelled.isNull())
+        element = labelled;
+
+    for (QDomNode text = firstText(element); !text.isNull(); text = firstText(element))
+        element.removeChild(text);
+    if (!id.isEmpty())
+        element.setAttribute(idAttribute, id);
+    element.appendChild(m_document.createTextNode(withoutForbiddenCharacters(value.toString())));
+}
+
+QString XmlSettings::keyName(qint32 key)
+{
+    return m_keyNames[key]; // puts an empty name where there is none; this is meant
+}
