@@ -1,0 +1,636 @@
+#include "configuration.h"
+#include "settings/appsettings.h"
+#include "update/versioncheck.h"
+
+#include <QApplication>
+#include <QDate>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QMessageBox>
+#include <QNetworkProxy>
+#include <QProcess>
+#include <QPushButton>
+#include <QTcpServer>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <memory>
+
+namespace {
+
+QString str(const char *text)
+{
+    return QString::fromUtf8(text);
+}
+
+const QString webAddress = QString::fromLatin1(Configuration::webAddress);
+
+QStringList debugLines;
+QtMessageHandler defaultHandler = nullptr;
+
+void collectDebugLines(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    if (type == QtDebugMsg)
+        debugLines << message;
+    else
+        defaultHandler(type, context, message);
+}
+
+// Sends the checks to a server on this machine. They ask it as a proxy, so that the address they ask for stays the
+// configured one, host and all.
+void askAt(quint16 port)
+{
+    QNetworkProxy::setApplicationProxy(QNetworkProxy(QNetworkProxy::HttpProxy, str("127.0.0.1"), port));
+}
+
+quint16 freePort()
+{
+    QTcpServer server;
+    server.listen(QHostAddress::LocalHost);
+    return server.serverPort();
+}
+
+qint64 residentKilobytes()
+{
+    QFile file(str("/proc/self/status"));
+    file.open(QIODevice::ReadOnly);
+    const QList<QByteArray> lines = file.readAll().split('\n');
+    for (const QByteArray &line : lines) {
+        if (line.startsWith("VmHWM:"))
+            return line.mid(6).simplified().split(' ').value(0).toLongLong();
+    }
+    return 0;
+}
+
+void resetPeakOfMemory()
+{
+    QFile file(str("/proc/self/clear_refs"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QVERIFY(file.write("5") == 1 && file.flush());
+}
+
+/// A web server that answers every request with one body and writes down what it was asked.
+class WebServer final
+{
+public:
+    WebServer()
+        : m_port(freePort())
+    {
+        write("nginx.conf", "daemon off;\nmaster_process off;\npid nginx.pid;\nerror_log error.log;\n"
+                            "events {}\n"
+                            "http {\n"
+                            "  log_format whole '$request|$http_accept|$status';\n"
+                            "  access_log access.log whole;\n"
+                            "  client_body_temp_path client; proxy_temp_path proxy; fastcgi_temp_path fastcgi;\n"
+                            "  uwsgi_temp_path uwsgi; scgi_temp_path scgi;\n"
+                            "  gzip on; gzip_types *; gzip_min_length 1; gzip_http_version 1.0;\n"
+                            "  server {\n"
+                            "    listen 127.0.0.1:" +
+                                QByteArray::number(m_port) +
+                                ";\n"
+                                "    root .;\n"
+                                "    location = /latest.php { try_files /body =404; default_type text/plain; }\n"
+                                "    location / { return 404; }\n"
+                                "  }\n"
+                                "}\n");
+        m_process.start(str("nginx"), {str("-p"), m_folder.path(), str("-c"), m_folder.filePath(str("nginx.conf")),
+                                       str("-e"), m_folder.filePath(str("error.log"))});
+        m_process.waitForStarted();
+        const auto accepts = [this] {
+            QTcpSocket socket;
+            socket.connectToHost(QHostAddress::LocalHost, m_port);
+            return socket.waitForConnected(1000);
+        };
+        for (int i = 0; i < 100 && !accepts(); ++i)
+            QTest::qSleep(50);
+        askAt(m_port);
+    }
+
+    ~WebServer()
+    {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+
+    void setBody(const QByteArray &body) { write("body", body); }
+
+    QList<QByteArray> requests() const
+    {
+        QFile file(m_folder.filePath(str("access.log")));
+        QList<QByteArray> lines =
+            file.open(QIODevice::ReadOnly) ? file.readAll().trimmed().split('\n') : QList<QByteArray>();
+        lines.removeAll(QByteArray());
+        return lines;
+    }
+
+private:
+    void write(const char *name, const QByteArray &content)
+    {
+        QFile file(m_folder.filePath(str(name)));
+        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+            QTest::qFail("cannot write a test file", __FILE__, __LINE__);
+    }
+
+    QTemporaryDir m_folder;
+    quint16 m_port;
+    QProcess m_process;
+};
+
+/// A server that does what no server should.
+class MisbehavingServer final
+{
+public:
+    explicit MisbehavingServer(const QString &way)
+    {
+        m_process.setReadChannel(QProcess::StandardOutput);
+        m_process.start(QStringLiteral(ORVANTA_MISBEHAVING_SERVER), {way});
+        const QByteArray line = nextLine();
+        askAt(static_cast<quint16>(line.mid(5).toUInt()));
+    }
+
+    ~MisbehavingServer()
+    {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+
+    QByteArray nextLine()
+    {
+        for (int i = 0; i < 300 && !m_process.canReadLine(); ++i)
+            m_process.waitForReadyRead(100);
+        return m_process.readLine().trimmed();
+    }
+
+private:
+    QProcess m_process;
+};
+
+/// What a box looked like when it stood.
+struct SeenBox
+{
+    QString title;
+    QString text;
+    QString informativeText;
+    QStringList buttons;
+    QString defaultButton;
+    QMessageBox::Icon icon;
+    Qt::WindowModality modality;
+    Qt::WindowFlags flags;
+    QWidget *parent;
+};
+
+} // namespace
+
+class TestVersionCheck final : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_folder;
+    std::unique_ptr<QWidget> m_window;
+    QList<SeenBox> m_boxes;
+    QList<QUrl> m_opened;
+    QMessageBox::StandardButton m_answer = QMessageBox::NoButton;
+    QTimer m_watch;
+
+    static QString timeStamp() { return AppSettings::instance().value(VersionCheckTimeStamp, QVariant()).toString(); }
+
+    static void setTimeStamp(const QString &text)
+    {
+        AppSettings::instance().setValue(AppSettings::instance().keyName(VersionCheckTimeStamp), text);
+    }
+
+    static QString today() { return QDate::currentDate().toString(str("dd.MM.yyyy")); }
+
+    void lookAtBox()
+    {
+        const auto box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!box)
+            return;
+        QStringList buttons;
+        const auto all = box->buttons();
+        for (const QAbstractButton *button : all)
+            buttons << button->text();
+        m_boxes.append({box->windowTitle(), box->text(), box->informativeText(), buttons,
+                        box->defaultButton() ? box->defaultButton()->text() : QString(), box->icon(),
+                        box->windowModality(), box->windowFlags(), box->parentWidget()});
+        QAbstractButton *answer = m_answer != QMessageBox::NoButton ? box->button(m_answer) : all.first();
+        answer->click();
+    }
+
+    VersionCheck *start(bool manual)
+    {
+        auto *check = new VersionCheck(m_window.get(), manual); // the window owns it
+        QTimer::singleShot(0, check, &VersionCheck::check);
+        return check;
+    }
+
+    // Starts a check and waits for the debug line or the box that ends it.
+    void run(bool manual)
+    {
+        start(manual);
+        QTRY_VERIFY_WITH_TIMEOUT(!debugLines.isEmpty() || !m_boxes.isEmpty(), 20000);
+        QTRY_VERIFY(!QApplication::activeModalWidget());
+        QTest::qWait(20);
+    }
+
+    void expectConnectionErrorBox(const SeenBox &box) const
+    {
+        QCOMPARE(box.title, str("Version check failed"));
+        QCOMPARE(box.text, str("Could not connect to server.\nPlease check your internet/firewall settings or look for "
+                               "yourself at: ") +
+                               webAddress + str(" for a new version."));
+        QCOMPARE(box.icon, QMessageBox::Warning);
+        QCOMPARE(box.buttons.size(), 1);
+        QCOMPARE(box.parent, m_window.get());
+    }
+
+private Q_SLOTS:
+    void openUrl(const QUrl &url) { m_opened << url; }
+
+    void initTestCase()
+    {
+        QVERIFY(QDir::setCurrent(m_folder.path()));
+        QCoreApplication::setApplicationVersion(str("1.1.6.2"));
+        defaultHandler = qInstallMessageHandler(collectDebugLines);
+        connect(&m_watch, &QTimer::timeout, this, &TestVersionCheck::lookAtBox);
+        m_watch.start(10);
+        QDesktopServices::setUrlHandler(str("http"), this, "openUrl");
+        QDesktopServices::setUrlHandler(str("https"), this, "openUrl");
+        QDesktopServices::setUrlHandler(str("file"), this, "openUrl");
+    }
+
+    void cleanupTestCase()
+    {
+        qInstallMessageHandler(defaultHandler);
+        QDir::setCurrent(str("/"));
+    }
+
+    void init()
+    {
+        m_window = std::make_unique<QWidget>();
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+        m_boxes.clear();
+        m_opened.clear();
+        m_answer = QMessageBox::NoButton;
+        debugLines.clear();
+        setTimeStamp(QString());
+    }
+
+    void aManualCheckSendsItsWholeQuery()
+    {
+        WebServer server;
+        server.setBody("version|1.1.6.2");
+        AppSettings::instance().setValue(str("IsFirstStart"), false);
+        run(true);
+        const QByteArray locale = QLocale::system().name().toLatin1();
+        QCOMPARE(server.requests(), QList<QByteArray>{QByteArray("GET http://") + Configuration::updateHost +
+                                                      "/latest.php?id=orvanta&version=1.1.6.2&fresh=0&lang=" + locale +
+                                                      "&beta=1&arch=64 HTTP/1.1|-|200"});
+    }
+
+    void anAutomaticCheckSendsItsWholeQuery()
+    {
+        WebServer server;
+        server.setBody("version|1.1.6.2");
+        AppSettings::instance().setValue(str("IsFirstStart"), true);
+        run(false);
+        QCOMPARE(server.requests().size(), 1);
+        QVERIFY(server.requests().at(0).contains("&fresh=1&"));
+        QVERIFY(server.requests().at(0).contains("&beta=0&arch=64 HTTP"));
+    }
+
+    void whetherItIsTheFirstStartIsReadWhenTheCheckRuns()
+    {
+        WebServer server;
+        server.setBody("version|1.1.6.2");
+        AppSettings::instance().setValue(str("IsFirstStart"), true);
+        start(false);
+        AppSettings::instance().setValue(str("IsFirstStart"), false);
+        QTRY_VERIFY(!debugLines.isEmpty());
+        QVERIFY(server.requests().at(0).contains("&fresh=0&"));
+    }
+
+    void aNewerVersionIsShownByEitherKindOfCheck_data()
+    {
+        QTest::addColumn<bool>("manual");
+        QTest::newRow("automatic") << false;
+        QTest::newRow("manual") << true;
+    }
+
+    void aNewerVersionIsShownByEitherKindOfCheck()
+    {
+        QFETCH(bool, manual);
+        WebServer server;
+        server.setBody("version|1.1.6.3#changes|<i>%1</i> fixes#log|http://log.example/%2#url|http://get.example/new");
+        m_answer = QMessageBox::Yes;
+        run(manual);
+        QCOMPARE(m_boxes.size(), 1);
+        const SeenBox &box = m_boxes.at(0);
+        QCOMPARE(box.title, str("BrimTale 1.1.6.2"));
+        QCOMPARE(box.text, str("New version available: <b>Brimtale 1.1.6.3</b>"));
+        QCOMPARE(
+            box.informativeText,
+            str("<b style=\"color:#444\"><i>%1</i> fixes</b><br/><a href=http://log.example/%2>http://log.example/%2"
+                "</a><br/><br/>Do you want to download the latest version from our website?"));
+        QCOMPARE(box.icon, QMessageBox::Question);
+        QCOMPARE(box.buttons, (QStringList{str("Yes"), str("No")}));
+        QCOMPARE(box.defaultButton, str("Yes"));
+        QCOMPARE(box.modality, Qt::WindowModal);
+        QVERIFY(box.flags & Qt::WindowStaysOnTopHint);
+        QVERIFY(!(box.flags & Qt::WindowContextHelpButtonHint));
+        QCOMPARE(box.parent, m_window.get());
+        QCOMPARE(m_opened, QList<QUrl>{QUrl(str("http://get.example/new"))});
+        QCOMPARE(timeStamp(), today());
+        QCOMPARE(debugLines, QStringList{str("*success*version check successful")});
+    }
+
+    void noOpensNothingAndIsRememberedAllTheSame()
+    {
+        WebServer server;
+        server.setBody("version|2.0.0.0#url|http://get.example/new");
+        m_answer = QMessageBox::No;
+        run(true);
+        QCOMPARE(m_boxes.size(), 1);
+        QVERIFY(m_opened.isEmpty());
+        QCOMPARE(timeStamp(), today());
+    }
+
+    void onlyTheWebIsOpened()
+    {
+        WebServer server;
+        server.setBody("version|2.0.0.0#url|file:///etc/passwd");
+        m_answer = QMessageBox::Yes;
+        run(true);
+        QVERIFY(m_opened.isEmpty());
+        QCOMPARE(debugLines, (QStringList{str("*fail*refused address: file:///etc/passwd"),
+                                          str("*success*version check successful")}));
+    }
+
+    void aLinkInTheBoxOpensOnlyTheWeb()
+    {
+        WebServer server;
+        server.setBody("version|2.0.0.0#log|file:///etc/passwd");
+        m_answer = QMessageBox::No;
+        int labels = 0;
+        QTimer clicker;
+        connect(&clicker, &QTimer::timeout, this, [&] {
+            const auto box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            if (!box || labels > 0)
+                return;
+            const auto all = box->findChildren<QLabel *>();
+            for (QLabel *label : all) {
+                if (!label->text().contains(str("<a href")))
+                    continue;
+                ++labels;
+                QVERIFY(!label->openExternalLinks());
+                Q_EMIT label->linkActivated(str("file:///etc/passwd"));
+                Q_EMIT label->linkActivated(str("https://log.example/"));
+            }
+        });
+        clicker.start(0);
+        run(true);
+        QCOMPARE(labels, 1);
+        QCOMPARE(m_opened, QList<QUrl>{QUrl(str("https://log.example/"))});
+    }
+
+    void noNewerVersionIsShownByAManualCheckOnly_data()
+    {
+        QTest::addColumn<QByteArray>("body");
+        QTest::addColumn<bool>("manual");
+        QTest::newRow("equal, automatic") << QByteArray("version|1.1.6.2") << false;
+        QTest::newRow("equal, manual") << QByteArray("version|1.1.6.2") << true;
+        QTest::newRow("older, automatic") << QByteArray("version|1.0.9.9") << false;
+        QTest::newRow("older, manual") << QByteArray("version|1.0.9.9") << true;
+    }
+
+    void noNewerVersionIsShownByAManualCheckOnly()
+    {
+        QFETCH(QByteArray, body);
+        QFETCH(bool, manual);
+        WebServer server;
+        server.setBody(body);
+        run(manual);
+        QTRY_COMPARE(debugLines, QStringList{str("*success*version check successful")});
+        QCOMPARE(timeStamp(), today());
+        QCOMPARE(m_boxes.size(), manual ? 1 : 0);
+        if (!manual)
+            return;
+        QCOMPARE(m_boxes.at(0).title, str("BrimTale 1.1.6.2"));
+        QCOMPARE(m_boxes.at(0).text, str("No updates are available."));
+        QCOMPARE(m_boxes.at(0).informativeText, QString());
+        QCOMPARE(m_boxes.at(0).buttons, QStringList{str("Okay")});
+        QCOMPARE(m_boxes.at(0).icon, QMessageBox::Information);
+        QCOMPARE(m_boxes.at(0).modality, Qt::WindowModal);
+        QVERIFY(!(m_boxes.at(0).flags & Qt::WindowContextHelpButtonHint));
+    }
+
+    void aReplyThatCannotBeReadIsShownByEitherKindOfCheck_data()
+    {
+        QTest::addColumn<QByteArray>("body");
+        QTest::addColumn<bool>("manual");
+        for (const bool manual : {false, true}) {
+            const char *kind = manual ? "manual" : "automatic";
+            QTest::addRow("three parts, %s", kind) << QByteArray("version|2.0.0") << manual;
+            QTest::addRow("no version, %s", kind) << QByteArray("changes|a") << manual;
+            QTest::addRow("empty version, %s", kind) << QByteArray("version|#changes|a") << manual;
+            QTest::addRow("empty body, %s", kind) << QByteArray() << manual;
+            QTest::addRow("a web page, %s", kind) << QByteArray("<html>Log in to this network</html>") << manual;
+        }
+    }
+
+    void aReplyThatCannotBeReadIsShownByEitherKindOfCheck()
+    {
+        QFETCH(QByteArray, body);
+        QFETCH(bool, manual);
+        WebServer server;
+        server.setBody(body);
+        run(manual);
+        QCOMPARE(m_boxes.size(), 1);
+        expectConnectionErrorBox(m_boxes.at(0));
+        QCOMPARE(timeStamp(), QString());
+        QCOMPARE(debugLines, QStringList());
+    }
+
+    void anErrorOfTheNetworkIsShownByAManualCheckOnly_data()
+    {
+        QTest::addColumn<QString>("way");
+        QTest::addColumn<bool>("manual");
+        for (const bool manual : {false, true}) {
+            const char *kind = manual ? "manual" : "automatic";
+            for (const char *way :
+                 {"refused", "404", "hangup", "garbage", "cut", "endless", "toolong", "headers", "headerline",
+                  "statusline", "bomb", "file:///etc/passwd", "ftp://127.0.0.1/a", "data:text/plain,version|9.9.9.9"})
+                QTest::addRow("%s, %s", way, kind) << str(way) << manual;
+        }
+    }
+
+    void anErrorOfTheNetworkIsShownByAManualCheckOnly()
+    {
+        QFETCH(QString, way);
+        QFETCH(bool, manual);
+        std::unique_ptr<WebServer> webServer;
+        std::unique_ptr<MisbehavingServer> misbehavingServer;
+        if (way == str("404"))
+            webServer = std::make_unique<WebServer>();
+        else if (way == str("refused"))
+            askAt(freePort());
+        else
+            misbehavingServer = std::make_unique<MisbehavingServer>(way);
+
+        resetPeakOfMemory();
+        const qint64 before = residentKilobytes();
+        run(manual);
+        const qint64 growth = residentKilobytes() - before;
+        QTRY_COMPARE(debugLines, QStringList{str("*fail*version check failed")});
+        QVERIFY2(growth < 48 * 1024, qPrintable(str("memory grew by %1 kB").arg(growth)));
+        QCOMPARE(timeStamp(), QString());
+        QCOMPARE(m_boxes.size(), manual ? 1 : 0);
+        if (manual)
+            expectConnectionErrorBox(m_boxes.at(0));
+    }
+
+    void sixtyFourKibibytesAreRead()
+    {
+        const MisbehavingServer server(str("exact"));
+        run(false);
+        QCOMPARE(debugLines, QStringList{str("*success*version check successful")});
+    }
+
+    void aRedirectInsideTheWebIsFollowed()
+    {
+        // Every address is asked of the one server, which sends on and on until the check gives up.
+        MisbehavingServer server(str("http://other.example/latest.php"));
+        run(false);
+        QCOMPARE(debugLines, QStringList{str("*fail*version check failed")});
+        QVERIFY(server.nextLine().contains(Configuration::updateHost));
+        QByteArray line = server.nextLine();
+        while (line.startsWith("closed"))
+            line = server.nextLine();
+        QCOMPARE(line, QByteArray("request GET http://other.example/latest.php HTTP/1.1"));
+    }
+
+    void aTimeStampOfTodaySkipsAnAutomaticCheckOnly()
+    {
+        WebServer server;
+        server.setBody("version|1.1.6.2");
+        setTimeStamp(today());
+        start(false);
+        QTest::qWait(500);
+        QVERIFY(server.requests().isEmpty());
+        QVERIFY(debugLines.isEmpty() && m_boxes.isEmpty());
+        run(true);
+        QCOMPARE(server.requests().size(), 1);
+    }
+
+    void aTimeStampOfAnotherDaySkipsNothing_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("tomorrow") << QDate::currentDate().addDays(1).toString(str("dd.MM.yyyy"));
+        QTest::newRow("yesterday") << QDate::currentDate().addDays(-1).toString(str("dd.MM.yyyy"));
+        QTest::newRow("no date") << str("today");
+    }
+
+    void aTimeStampOfAnotherDaySkipsNothing()
+    {
+        QFETCH(QString, text);
+        WebServer server;
+        server.setBody("version|1.1.6.2");
+        setTimeStamp(text);
+        run(false);
+        QCOMPARE(server.requests().size(), 1);
+        QCOMPARE(timeStamp(), today());
+    }
+
+    void aManualCheckCountsForTheAutomaticOnesOfTheDay()
+    {
+        WebServer server;
+        server.setBody("version|1.1.6.2");
+        run(true);
+        debugLines.clear();
+        start(false);
+        QTest::qWait(300);
+        QCOMPARE(server.requests().size(), 1);
+    }
+
+    void everyCheckIsIndependent()
+    {
+        WebServer server;
+        server.setBody("version|1.1.6.2");
+        start(true);
+        start(true);
+        start(true);
+        QTRY_COMPARE_WITH_TIMEOUT(m_boxes.size(), 3, 20000);
+        QTRY_COMPARE(debugLines.size(), 3);
+    }
+
+    void destroyingTheParentCancelsTheCheck_data()
+    {
+        QTest::addColumn<QString>("way");
+        QTest::newRow("silent server") << str("silent");
+        QTest::newRow("slow server") << str("slow");
+    }
+
+    void destroyingTheParentCancelsTheCheck()
+    {
+        QFETCH(QString, way);
+        MisbehavingServer server(way);
+        start(true);
+        QTest::qWait(300);
+        QVERIFY(server.nextLine().startsWith("request GET"));
+        m_window.reset();
+        QVERIFY(server.nextLine().startsWith("closed"));
+        QTest::qWait(100);
+        QVERIFY(m_boxes.isEmpty());
+        QVERIFY(debugLines.isEmpty());
+        QCOMPARE(timeStamp(), QString());
+    }
+
+    void aBoxMayStandWhenItsParentGoes_data()
+    {
+        QTest::addColumn<QByteArray>("body");
+        QTest::newRow("new version") << QByteArray("version|2.0.0.0#url|http://get.example/");
+        QTest::newRow("malformed") << QByteArray("version|2");
+        QTest::newRow("no updates") << QByteArray("version|1.1.6.2");
+    }
+
+    void aBoxMayStandWhenItsParentGoes()
+    {
+        QFETCH(QByteArray, body);
+        WebServer server;
+        server.setBody(body);
+        m_watch.stop();
+        QTimer::singleShot(0, this, [this] { start(true); });
+        bool stood = false;
+        QTimer destroyer;
+        connect(&destroyer, &QTimer::timeout, this, [&] {
+            if (!m_window || !QApplication::activeModalWidget())
+                return;
+            stood = true;
+            m_window.reset();
+        });
+        destroyer.start(10);
+        QTRY_VERIFY_WITH_TIMEOUT(stood, 20000);
+        QTest::qWait(100);
+        m_watch.start(10);
+        QVERIFY(!QApplication::activeModalWidget());
+        QCOMPARE(timeStamp(), QString());
+        QVERIFY(m_opened.isEmpty());
+    }
+
+    void theClassHasItsSlotsAndNothingElse()
+    {
+        const QMetaObject &meta = VersionCheck::staticMetaObject;
+        QCOMPARE(meta.methodCount() - meta.methodOffset(), 2);
+        QCOMPARE(meta.method(meta.methodOffset()).methodSignature(), QByteArray("check()"));
+        QCOMPARE(meta.method(meta.methodOffset() + 1).methodSignature(),
+                 QByteArray("downloadFinished(QNetworkReply*)"));
+        QCOMPARE(meta.propertyCount(), meta.propertyOffset());
+    }
+};
+
+QTEST_MAIN(TestVersionCheck)
+#include "tst_versioncheck.moc"
