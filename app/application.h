@@ -2,8 +2,15 @@
 
 #include <QApplication>
 
-/// The application object. Its destructor is the program's shutdown, in every kind of run and also while an exception
-/// unwinds the entry: it saves the settings.
+#include <memory>
+
+class MainWindow;
+
+/// The application object, owner of the main window.
+///
+/// Its destructor is the program's shutdown, in every kind of run and also while an exception unwinds the entry: it
+/// saves the settings, deletes the main window, which writes its own settings and saves again, and deletes the language
+/// manager.
 class Application final : public QApplication
 {
     Q_OBJECT
@@ -13,7 +20,14 @@ public:
     Application(int &argumentCount, char **arguments);
     ~Application() override;
 
-    /// Prepares a run with windows; called once, before the event loop. Throws a plain character string when there is
-    /// no data directory to work in.
+    /// Starts a run with windows; called once, before the event loop. The property "AUTO_ADD" may hold the path of a
+    /// file to begin with. Throws a plain character string when there is no data directory to work in.
     void init();
+
+private:
+    void createMainWindow();
+    void greetOnFirstStart();
+    void showMainWindow();
+
+    std::unique_ptr<MainWindow> mainWindow;
 };

@@ -10,6 +10,17 @@
 #include <QFileInfo>
 #include <QVariant>
 
+// Outside of any namespace, as the toolkit's macros need it.
+static void registerResources()
+{
+    Q_INIT_RESOURCE(orvanta);
+}
+
+static void unregisterResources()
+{
+    Q_CLEANUP_RESOURCE(orvanta);
+}
+
 namespace {
 
 // The toolkit is not to look at any argument: "-style" and the like are plain text here. It holds on to both of these
@@ -46,11 +57,18 @@ qint32 verifyForScript(const QString &commandLine)
 
 int openWindow(const QString &file)
 {
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+#endif
     Application application(argumentCount, arguments);
     if (!file.isEmpty())
         application.setProperty("AUTO_ADD", file);
     application.init();
-    return QApplication::exec();
+    const int code = QApplication::exec();
+    unregisterResources();
+    return code;
 }
 
 // The path with nothing but its relativity taken away: the run changes its working directory before it opens the file.
@@ -84,6 +102,8 @@ int runProgram(const QString &commandLine)
 {
     // By the time a handler runs, unwinding has ended the application object and saved the settings.
     try {
+        // They are registered when the program is loaded, too; once more does no harm.
+        registerResources();
         return run(commandLine);
     } catch (const char *text) {
         return reportKnownError(text);

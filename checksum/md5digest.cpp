@@ -37,26 +37,26 @@ inline void step(std::uint32_t &a, std::uint32_t b, std::uint32_t c, std::uint32
 
 void Md5Digest::update(const std::uint8_t *input, std::uint32_t length)
 {
-    std::uint32_t index = (m_count[0] >> 3) & 63;
+    std::uint32_t index = (count[0] >> 3) & 63;
 
     const std::uint32_t lowBits = length << 3;
-    m_count[0] += lowBits;
-    if (m_count[0] < lowBits)
-        ++m_count[1];
-    m_count[1] += length >> 29;
+    count[0] += lowBits;
+    if (count[0] < lowBits)
+        ++count[1];
+    count[1] += length >> 29;
 
     const std::uint32_t partLength = 64 - index;
     std::uint32_t offset = 0;
     if (length >= partLength) {
-        std::memcpy(m_buffer + index, input, partLength);
-        transform(m_buffer);
+        std::memcpy(buffer + index, input, partLength);
+        transform(buffer);
         // Counted by what is left, since offset + 63 could wrap for a length close to 4 GiB.
         for (offset = partLength; length - offset >= 64; offset += 64)
             transform(input + offset);
         index = 0;
     }
     if (offset < length)
-        std::memcpy(m_buffer + index, input + offset, length - offset);
+        std::memcpy(buffer + index, input + offset, length - offset);
 }
 
 // clang-format off
@@ -66,10 +66,10 @@ void Md5Digest::transform(const std::uint8_t *block)
     for (std::size_t i = 0; i < 16; ++i)
         x[i] = loadLittleEndian(block + 4 * i);
 
-    std::uint32_t a = m_state[0];
-    std::uint32_t b = m_state[1];
-    std::uint32_t c = m_state[2];
-    std::uint32_t d = m_state[3];
+    std::uint32_t a = state[0];
+    std::uint32_t b = state[1];
+    std::uint32_t c = state[2];
+    std::uint32_t d = state[3];
 
     // Round 1
     step<chooseByX>(a, b, c, d, x[ 0],  7, 0xd76aa478u);
@@ -140,26 +140,26 @@ void Md5Digest::transform(const std::uint8_t *block)
     step<mix>(c, d, a, b, x[ 2], 15, 0x2ad7d2bbu);
     step<mix>(b, c, d, a, x[ 9], 21, 0xeb86d391u);
 
-    m_state[0] += a;
-    m_state[1] += b;
-    m_state[2] += c;
-    m_state[3] += d;
+    state[0] += a;
+    state[1] += b;
+    state[2] += c;
+    state[3] += d;
 }
 // clang-format on
 
 std::string Md5Digest::hexDigest(std::int32_t *status)
 {
     std::uint8_t bits[8];
-    storeLittleEndian(bits, m_count[0]);
-    storeLittleEndian(bits + 4, m_count[1]);
+    storeLittleEndian(bits, count[0]);
+    storeLittleEndian(bits + 4, count[1]);
 
-    const std::uint32_t index = (m_count[0] >> 3) & 63;
+    const std::uint32_t index = (count[0] >> 3) & 63;
     update(digestPadding, index < 56 ? 56 - index : 120 - index);
     update(bits, 8);
 
     std::uint8_t digest[16];
     for (std::size_t i = 0; i < 4; ++i)
-        storeLittleEndian(digest + 4 * i, m_state[i]);
+        storeLittleEndian(digest + 4 * i, state[i]);
 
     static constexpr char digits[] = "0123456789abcdef";
     std::string text;

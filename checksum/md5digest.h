@@ -24,7 +24,7 @@ public:
     std::string hexDigest(std::int32_t *status);
 
 private:
-    std::uint8_t m_buffer[64] = {};                                                  ///< block being filled
-    std::uint32_t m_count[2] = {0, 0};                                               ///< bits, low word first
-    std::uint32_t m_state[4] = {0x67452301u, 0xefcdab89u, 0x98badcfeu, 0x10325476u}; ///< A, B, C, D
+    std::uint8_t buffer[64] = {};                                                  ///< block being filled
+    std::uint32_t count[2] = {0, 0};                                               ///< bits, low word first
+    std::uint32_t state[4] = {0x67452301u, 0xefcdab89u, 0x98badcfeu, 0x10325476u}; ///< A, B, C, D
 };

@@ -7,16 +7,16 @@
 
 bool Catalogue::loadFile(const QString &fileName)
 {
-    QByteArray bytes;
+    QByteArray content;
     QFile file(fileName);
     if (QFileInfo(fileName).isFile() && file.open(QIODevice::ReadOnly))
-        bytes = file.read(maximumCatalogueSize + 1);
-    if (!isSoundCatalogue(bytes))
-        bytes.clear();
+        content = file.read(maximumCatalogueSize + 1);
+    if (!isSoundCatalogue(content))
+        content.clear();
 
     // The old bytes are in use until the new ones are loaded; nothing at all unloads them.
-    const auto data = reinterpret_cast<const uchar *>(bytes.constData());
-    const bool isLoaded = load(data, static_cast<int>(bytes.size()));
-    m_bytes = bytes;
+    const auto data = reinterpret_cast<const uchar *>(content.constData());
+    const bool isLoaded = load(data, static_cast<int>(content.size()));
+    bytes = content;
     return isLoaded;
 }

@@ -16,5 +16,5 @@ public:
     bool loadFile(const QString &fileName);
 
 private:
-    QByteArray m_bytes;
+    QByteArray bytes;
 };

@@ -39,13 +39,13 @@ constexpr int maximumParts = 2'000'000;
 class Reader final
 {
 public:
-    Reader(const QByteArray &bytes, quint32 offset)
-        : m_bytes(bytes)
-        , m_offset(offset)
+    Reader(const QByteArray &source, quint32 start)
+        : bytes(source)
+        , offset(start)
     {
     }
 
-    quint32 left() const { return static_cast<quint32>(m_bytes.size()) - m_offset; }
+    quint32 left() const { return static_cast<quint32>(bytes.size()) - offset; }
 
     std::optional<quint32> read(quint32 byteCount)
     {
@@ -53,8 +53,8 @@ public:
             return std::nullopt;
         quint32 number = 0;
         for (quint32 i = 0; i < byteCount; ++i)
-            number = number << 8 | static_cast<quint8>(m_bytes.at(static_cast<int>(m_offset + i)));
-        m_offset += byteCount;
+            number = number << 8 | static_cast<quint8>(bytes.at(static_cast<int>(offset + i)));
+        offset += byteCount;
         return number;
     }
 
@@ -62,22 +62,22 @@ public:
     {
         if (left() < byteCount)
             return std::nullopt;
-        QByteArray bytes = m_bytes.mid(static_cast<int>(m_offset), static_cast<int>(byteCount));
-        m_offset += byteCount;
-        return bytes;
+        QByteArray taken = bytes.mid(static_cast<int>(offset), static_cast<int>(byteCount));
+        offset += byteCount;
+        return taken;
     }
 
     bool skip(quint32 byteCount)
     {
         if (left() < byteCount)
             return false;
-        m_offset += byteCount;
+        offset += byteCount;
         return true;
     }
 
 private:
-    const QByteArray &m_bytes;
-    quint32 m_offset;
+    const QByteArray &bytes;
+    quint32 offset;
 };
 
 std::optional<QMap<quint32, QByteArray>> sectionsOf(const QByteArray &bytes)

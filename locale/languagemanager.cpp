@@ -47,7 +47,7 @@ void LanguageManager::destroyInstance()
 }
 
 LanguageManager::LanguageManager()
-    : m_translator(std::make_unique<Catalogue>())
+    : translator(std::make_unique<Catalogue>())
 {
 }
 
@@ -55,10 +55,10 @@ LanguageManager::~LanguageManager() = default;
 
 void LanguageManager::loadLanguages()
 {
-    m_localeDir = QCoreApplication::applicationDirPath() + QLatin1String("/locale");
-    m_languages.append({QStringLiteral("English"), QStringLiteral("United Kingdom"), QString(),
-                        QStringLiteral(":/img/en.png"), QStringLiteral("en_UK")});
-    if (!QDir(m_localeDir).exists())
+    localeDir = QCoreApplication::applicationDirPath() + QLatin1String("/locale");
+    languages.append({QStringLiteral("English"), QStringLiteral("United Kingdom"), QString(),
+                      QStringLiteral(":/img/en.png"), QStringLiteral("en_UK")});
+    if (!QDir(localeDir).exists())
         return;
     scanCatalogues();
     QCoreApplication::processEvents();
@@ -67,13 +67,13 @@ void LanguageManager::loadLanguages()
 void LanguageManager::scanCatalogues()
 {
     const QStringList names =
-        QDir(m_localeDir).entryList({QStringLiteral("*.qm")}, QDir::AllEntries, QDir::Name | QDir::IgnoreCase);
+        QDir(localeDir).entryList({QStringLiteral("*.qm")}, QDir::AllEntries, QDir::Name | QDir::IgnoreCase);
     for (const QString &name : names) {
         const QString code = codeOf(name);
         // For a code that the locale database does not know, these are the names of its fallback.
         const QLocale locale(code);
-        m_languages.append({QLocale::languageToString(locale.language()), englishCountryName(locale), name,
-                            m_localeDir + QLatin1Char('/') + code + QLatin1String(".png"), code});
+        languages.append({QLocale::languageToString(locale.language()), englishCountryName(locale), name,
+                          localeDir + QLatin1Char('/') + code + QLatin1String(".png"), code});
         if (AppSettings::instance().value(Language, QVariant()) == QVariant(code))
             selectLanguage(code);
     }
@@ -83,7 +83,7 @@ void LanguageManager::selectLanguage(const QString &code)
 {
     AppSettings &settings = AppSettings::instance();
     settings.setValue(settings.keyName(Language), code);
-    QCoreApplication::removeTranslator(m_translator.get());
+    QCoreApplication::removeTranslator(translator.get());
 
     // English without a look at the list. The built-in entry has another code, en_UK; both are meant as they are.
     if (code == QLatin1String("en_EN"))
@@ -92,21 +92,21 @@ void LanguageManager::selectLanguage(const QString &code)
     if (!language)
         return;
     // The built-in entry has no file: the folder itself does not load, and the program stays in English.
-    if (m_translator->loadFile(m_localeDir + QLatin1Char('/') + language->fileName))
-        QCoreApplication::installTranslator(m_translator.get());
+    if (translator->loadFile(localeDir + QLatin1Char('/') + language->fileName))
+        QCoreApplication::installTranslator(translator.get());
 }
 
 std::optional<LanguageInfo> LanguageManager::findLanguage(const QString &code) const
 {
-    const auto found = std::find_if(m_languages.begin(), m_languages.end(),
+    const auto found = std::find_if(languages.begin(), languages.end(),
                                     [&code](const LanguageInfo &language) { return language.code == code; });
-    return found != m_languages.end() ? std::optional(*found) : std::nullopt;
+    return found != languages.end() ? std::optional(*found) : std::nullopt;
 }
 
 void LanguageManager::fillLanguageTree(QTreeWidget *tree) const
 {
     int longest = 0;
-    for (const LanguageInfo &language : m_languages) {
+    for (const LanguageInfo &language : languages) {
         auto *item = new QTreeWidgetItem; // the tree owns it
         item->setIcon(0, QIcon(language.flag));
         item->setText(0, language.code);

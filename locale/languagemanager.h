@@ -57,7 +57,7 @@ private:
 
     static LanguageManager *s_instance;
 
-    QList<LanguageInfo> m_languages;
-    std::unique_ptr<Catalogue> m_translator;
-    QString m_localeDir;
+    QList<LanguageInfo> languages;
+    std::unique_ptr<Catalogue> translator;
+    QString localeDir;
 };

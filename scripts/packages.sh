@@ -4,12 +4,12 @@
 build_packages=(
     g++ cmake ninja-build pkg-config
     qtbase5-dev qtbase5-dev-tools qttools5-dev qttools5-dev-tools libxcb1-dev
-    qt5-style-plugin-plastique fonts-dejavu-core
+    qttranslations5-l10n qt5-style-plugin-plastique fonts-dejavu-core
 )
 test_packages=(
-    xvfb openbox xdotool x11-utils nginx-light zlib1g-dev qttranslations5-l10n
-    qt6-base-dev libgl-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
-    clang clang-format clang-tidy libclang-rt-14-dev
+    xvfb openbox xdotool x11-utils nginx-light zlib1g-dev
+    qt6-base-dev libgl-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-translations-l10n
+    python3 clang clang-format clang-tidy libclang-rt-14-dev
 )
 
 # install_missing PACKAGE...: quiet when nothing is missing.

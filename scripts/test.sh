@@ -5,7 +5,7 @@ cd "$(dirname "$0")/.."
 . scripts/packages.sh
 install_missing "${build_packages[@]}" "${test_packages[@]}"
 
-folders=(app checksum settings locale update)
+folders=(app checksum settings locale update ui)
 
 # test_preset NAME: warnings are errors.
 test_preset() {

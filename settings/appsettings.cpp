@@ -9,18 +9,18 @@ AppSettings &AppSettings::instance()
 AppSettings::AppSettings()
     : XmlSettings(QString())
 {
-    m_keyNames[Language] = QStringLiteral("Language");
-    m_keyNames[WindowState] = QStringLiteral("Window/State"); // given again below, which is the name that counts; meant
-    m_keyNames[WindowOpacity] = QStringLiteral("Window/Opacity");
-    m_keyNames[WindowStayOnTop] = QStringLiteral("Window/StayOnTop");
-    m_keyNames[WindowRestoreLayout] = QStringLiteral("Window/RestoreLayout");
-    m_keyNames[WindowRestoreGeometry] = QStringLiteral("Window/RestoreGeometry");
-    m_keyNames[WindowState] = QStringLiteral("Window/WndState");
-    m_keyNames[WindowGeometry] = QStringLiteral("Window/WndGeometry");
-    m_keyNames[VersionCheckAuto] = QStringLiteral("VersionCheck/Auto");
-    m_keyNames[VersionCheckTimeStamp] = QStringLiteral("VersionCheck/TimeStamp");
-    m_keyNames[ProfileManual] = QStringLiteral("ProfileManual");
-    m_keyNames[ProfileAuto] = QStringLiteral("ProfileAuto");
-    m_keyNames[IsFirstStart] = QStringLiteral("IsFirstStart");
-    m_keyNames[DisableSplashScreen] = QStringLiteral("DisableSplashScreen");
+    keyNames[Language] = QStringLiteral("Language");
+    keyNames[WindowState] = QStringLiteral("Window/State"); // given again below, which is the name that counts; meant
+    keyNames[WindowOpacity] = QStringLiteral("Window/Opacity");
+    keyNames[WindowStayOnTop] = QStringLiteral("Window/StayOnTop");
+    keyNames[WindowRestoreLayout] = QStringLiteral("Window/RestoreLayout");
+    keyNames[WindowRestoreGeometry] = QStringLiteral("Window/RestoreGeometry");
+    keyNames[WindowState] = QStringLiteral("Window/WndState");
+    keyNames[WindowGeometry] = QStringLiteral("Window/WndGeometry");
+    keyNames[VersionCheckAuto] = QStringLiteral("VersionCheck/Auto");
+    keyNames[VersionCheckTimeStamp] = QStringLiteral("VersionCheck/TimeStamp");
+    keyNames[ProfileManual] = QStringLiteral("ProfileManual");
+    keyNames[ProfileAuto] = QStringLiteral("ProfileAuto");
+    keyNames[IsFirstStart] = QStringLiteral("IsFirstStart");
+    keyNames[DisableSplashScreen] = QStringLiteral("DisableSplashScreen");
 }

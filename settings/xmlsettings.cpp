@@ -60,12 +60,12 @@ QString withoutForbiddenCharacters(const QString &text)
 } // namespace
 
 XmlSettings::XmlSettings(const QString &profileName)
-    : m_extension(QStringLiteral(".xml"))
+    : extension(QStringLiteral(".xml"))
 {
-    m_document.appendChild(m_document.createProcessingInstruction(
-        QStringLiteral("xml"), QStringLiteral("version=\"1.0\" encoding=\"utf-8\"")));
-    m_root = m_document.createElement(settingsTag);
-    m_document.appendChild(m_root);
+    document.appendChild(document.createProcessingInstruction(QStringLiteral("xml"),
+                                                              QStringLiteral("version=\"1.0\" encoding=\"utf-8\"")));
+    root = document.createElement(settingsTag);
+    document.appendChild(root);
     setProfile(profileName);
 }
 
@@ -76,41 +76,41 @@ void XmlSettings::setProfile(const QString &name)
     const QString folder = QStringLiteral("config");
     if (!QDir(folder).exists())
         QDir().mkpath(folder);
-    m_filePath = QDir::currentPath() + QLatin1Char('/') + folder + QLatin1Char('/') + name + m_extension;
+    filePath = QDir::currentPath() + QLatin1Char('/') + folder + QLatin1Char('/') + name + extension;
 }
 
 void XmlSettings::load()
 {
-    const QMutexLocker locker(&m_mutex);
-    const QDomElement settings = readSettings(settingsFileContent(m_filePath));
+    const QMutexLocker locker(&mutex);
+    const QDomElement settings = readSettings(settingsFileContent(filePath));
     if (settings.isNull())
         return;
     // Only the element moves; the declaration stays the store's own.
-    const QDomElement root = m_document.importNode(settings, true).toElement();
-    m_document.replaceChild(root, m_root);
-    m_root = root;
+    const QDomElement adopted = document.importNode(settings, true).toElement();
+    document.replaceChild(adopted, root);
+    root = adopted;
 }
 
 void XmlSettings::save()
 {
-    const QMutexLocker locker(&m_mutex);
-    m_root.setAttribute(QStringLiteral("version"), QCoreApplication::applicationVersion());
-    switch (replaceFile(m_filePath, m_document.toString(2).toUtf8())) {
+    const QMutexLocker locker(&mutex);
+    root.setAttribute(QStringLiteral("version"), QCoreApplication::applicationVersion());
+    switch (replaceFile(filePath, document.toString(2).toUtf8())) {
     case ReplaceResult::Replaced:
         break;
     case ReplaceResult::NotOpened:
-        qDebug().noquote().nospace() << "could not save: " << m_filePath;
+        qDebug().noquote().nospace() << "could not save: " << filePath;
         break;
     case ReplaceResult::NotWritten:
-        qDebug().noquote().nospace() << "could not save all data in: " << m_filePath;
+        qDebug().noquote().nospace() << "could not save all data in: " << filePath;
         break;
     }
 }
 
 QVariant XmlSettings::value(const QString &name, const QVariant &defaultValue, const QString &id)
 {
-    const QMutexLocker locker(&m_mutex);
-    QDomElement element = m_root;
+    const QMutexLocker locker(&mutex);
+    QDomElement element = root;
     const QStringList path = pathOf(name);
     for (const QString &part : path) {
         element = element.firstChildElement(part);
@@ -129,21 +129,21 @@ QVariant XmlSettings::value(const QString &name, const QVariant &defaultValue, c
 
 QVariant XmlSettings::value(qint32 key, const QVariant &defaultValue, const QString &id)
 {
-    const QMutexLocker locker(&m_mutex);
+    const QMutexLocker locker(&mutex);
     return value(keyName(key), defaultValue, id);
 }
 
 void XmlSettings::setValue(const QString &name, const QVariant &value, const QString &id)
 {
-    const QMutexLocker locker(&m_mutex);
-    QDomElement element = m_root;
+    const QMutexLocker locker(&mutex);
+    QDomElement element = root;
     const QStringList path = pathOf(name);
     for (const QString &part : path) {
         QDomElement child = element.firstChildElement(part);
         if (child.isNull()) {
             if (!canBeTag(part))
                 return;
-            child = m_document.createElement(part);
+            child = document.createElement(part);
             element.appendChild(child);
         }
         element = child;
@@ -158,10 +158,10 @@ void XmlSettings::setValue(const QString &name, const QVariant &value, const QSt
         element.removeChild(text);
     if (!id.isEmpty())
         element.setAttribute(idAttribute, id);
-    element.appendChild(m_document.createTextNode(withoutForbiddenCharacters(value.toString())));
+    element.appendChild(document.createTextNode(withoutForbiddenCharacters(value.toString())));
 }
 
 QString XmlSettings::keyName(qint32 key)
 {
-    return m_keyNames[key]; // puts an empty name where there is none; this is meant
+    return keyNames[key]; // puts an empty name where there is none; this is meant
 }

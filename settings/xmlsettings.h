@@ -46,12 +46,12 @@ private:
     Q_DISABLE_COPY(XmlSettings)
 
 protected:
-    QMap<qint32, QString> m_keyNames; ///< for derived classes to fill
+    QMap<qint32, QString> keyNames; ///< for derived classes to fill
 
 private:
-    QDomDocument m_document; ///< always the XML declaration, then m_root
-    QDomElement m_root;
-    QString m_filePath;
-    QString m_extension;
-    QRecursiveMutex m_mutex;
+    QDomDocument document; ///< always the XML declaration, then root
+    QDomElement root;
+    QString filePath;
+    QString extension;
+    QRecursiveMutex mutex;
 };

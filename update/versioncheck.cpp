@@ -52,15 +52,15 @@ void withoutContextHelp(QWidget *window)
 
 } // namespace
 
-VersionCheck::VersionCheck(QObject *parent, bool manual)
+VersionCheck::VersionCheck(QObject *parent, bool isManual)
     : QObject(parent)
-    , m_manual(manual)
-    , m_body(std::make_shared<QByteArray>())
+    , manual(isManual)
+    , body(std::make_shared<QByteArray>())
 {
-    m_network.setRedirectPolicy(QNetworkRequest::NoLessSafeRedirectPolicy);
+    network.setRedirectPolicy(QNetworkRequest::NoLessSafeRedirectPolicy);
     // Queued, since a box may stand there until this object and its network are gone.
-    connect(&m_network, &QNetworkAccessManager::finished, this, &VersionCheck::downloadFinished, Qt::QueuedConnection);
-    m_localVersion = parseVersion(QCoreApplication::applicationVersion()).value_or(VersionNumber{});
+    connect(&network, &QNetworkAccessManager::finished, this, &VersionCheck::downloadFinished, Qt::QueuedConnection);
+    localVersion = parseVersion(QCoreApplication::applicationVersion()).value_or(VersionNumber{});
 }
 
 void VersionCheck::check()
@@ -68,24 +68,24 @@ void VersionCheck::check()
     AppSettings &settings = AppSettings::instance();
     // A manual check asks for test versions too, an automatic one never does; that is meant.
     const VersionQuery query{QString::fromLatin1(Configuration::updateHost), QCoreApplication::applicationVersion(),
-                             settings.value(IsFirstStart, true).toBool(), QLocale::system().name(), m_beta || m_manual};
-    if (!m_manual && isTimeStampOf(settings.value(VersionCheckTimeStamp, QVariant()).toString(), QDate::currentDate()))
+                             settings.value(IsFirstStart, true).toBool(), QLocale::system().name(), beta || manual};
+    if (!manual && isTimeStampOf(settings.value(VersionCheckTimeStamp, QVariant()).toString(), QDate::currentDate()))
         return;
 
-    takeLimitedBody(m_network.get(QNetworkRequest(QUrl(query.address()))), m_body);
+    takeLimitedBody(network.get(QNetworkRequest(QUrl(query.address()))), body);
 }
 
 void VersionCheck::downloadFinished(QNetworkReply *reply)
 {
     const QPointer<VersionCheck> self(this);
     if (reply->error() != QNetworkReply::NoError) {
-        if (m_manual)
+        if (manual)
             showConnectionError();
         qDebug().noquote() << "*fail*version check failed";
         return;
     }
 
-    const VersionReply newest = parseVersionReply(*m_body + reply->readAll());
+    const VersionReply newest = parseVersionReply(*body + reply->readAll());
     const auto version = parseVersion(newest.version);
     if (!version) {
         // Shown for an automatic check too, unlike an error of the network; that is meant.
@@ -99,9 +99,9 @@ void VersionCheck::downloadFinished(QNetworkReply *reply)
     withoutContextHelp(&box);
     // The name of another product of the maker, here and, spelt otherwise, in the text; both are meant.
     box.setWindowTitle(QLatin1String("BrimTale ") + QCoreApplication::applicationVersion());
-    if (*version > m_localVersion)
+    if (*version > localVersion)
         showNewVersion(box, newest);
-    else if (m_manual)
+    else if (manual)
         showNoUpdates(box);
     if (!self)
         return;
@@ -121,7 +121,7 @@ void VersionCheck::showNoUpdates(QMessageBox &box)
     box.setIcon(QMessageBox::Information);
     box.exec();
     if (self)
-        m_manual = false;
+        manual = false;
 }
 
 void VersionCheck::showNewVersion(QMessageBox &box, const VersionReply &newest)

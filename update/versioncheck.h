@@ -24,7 +24,7 @@ class VersionCheck final : public QObject
 
 public:
     /// The application version must have exactly four parts.
-    VersionCheck(QObject *parent, bool manual);
+    VersionCheck(QObject *parent, bool isManual);
 
 public Q_SLOTS:
     /// Sends the query, or returns at once when an automatic check already ran today.
@@ -37,9 +37,9 @@ private:
     void showNewVersion(QMessageBox &box, const VersionReply &newest);
     QWidget *parentWidget() const;
 
-    QNetworkAccessManager m_network;
-    VersionNumber m_localVersion = {};
-    bool m_manual;
-    bool m_beta = false;                ///< nothing sets it
-    std::shared_ptr<QByteArray> m_body; ///< of the reply, as far as it has arrived
+    QNetworkAccessManager network;
+    VersionNumber localVersion = {};
+    bool manual;
+    bool beta = false;                ///< nothing sets it
+    std::shared_ptr<QByteArray> body; ///< of the reply, as far as it has arrived
 };

@@ -11,5 +11,5 @@ public:
     bool tick();
 
 private:
-    qint32 m_counter = 431950;
+    qint32 counter = 431950;
 };
