@@ -67,6 +67,7 @@ DialogOptions::DialogOptions(QWidget *parent, Qt::WindowFlags flags)
     connect(ui->listLocale, &QTreeWidget::itemSelectionChanged, this, &DialogOptions::retranslate);
     connect(ui->stackedWidget, &QStackedWidget::currentChanged, this, &DialogOptions::fadeInWidget);
     ui->textBrowser->setHtml(aboutText());
+    widenGroupBoxes();
 }
 
 DialogOptions::~DialogOptions()
@@ -102,7 +103,15 @@ void DialogOptions::changeEvent(QEvent *event)
         return;
     }
     ui->retranslateUi(this);
+    widenGroupBoxes();
     event->accept();
+}
+
+// Their smallest width is a fixed one, which a longer language exceeds.
+void DialogOptions::widenGroupBoxes()
+{
+    for (QGroupBox *box : {ui->groupBox_5, ui->groupBoxUpdates})
+        box->setMinimumWidth(qMax(320, box->minimumSizeHint().width()));
 }
 
 void DialogOptions::on_pushButtonUpdate_clicked()

@@ -37,6 +37,7 @@ protected:
 
 private:
     void loadSettings();
+    void widenGroupBoxes();
 
     std::unique_ptr<Ui::DialogOptions> ui;
     QPointer<FaderWidget> faderWidget;

@@ -106,6 +106,7 @@ void MainWindow::restoreSettings()
 void MainWindow::restoreWindowGeometry()
 {
     restoreGeometry(storedBytes(WindowGeometry));
+    resize(size().expandedTo(minimumSizeHint())); // a damaged value can leave the window without any height
     // The whole desktop counts, not the free part of one screen.
     const QSize desktop = QGuiApplication::primaryScreen()->virtualSize();
     if (x() < 0 || y() < 0 || x() > desktop.width() - 50 || y() > desktop.height() - 50)
