@@ -32,6 +32,16 @@ void doWithoutDisplay()
     qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
+void prepareForDenseScreens()
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    // In whole steps, which is the toolkit's default: it goes by the physical size of the screen here, so that a
+    // finer scale would blur every picture on almost every screen.
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
+}
+
 bool boxesCanBeSeen()
 {
     const QString platform = QGuiApplication::platformName();

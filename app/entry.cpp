@@ -57,11 +57,7 @@ qint32 verifyForScript(const QString &commandLine)
 
 int openWindow(const QString &file)
 {
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-#endif
+    prepareForDenseScreens();
     Application application(argumentCount, arguments);
     if (!file.isEmpty())
         application.setProperty("AUTO_ADD", file);

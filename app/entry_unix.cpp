@@ -8,14 +8,20 @@
 
 namespace {
 
-// Under cron and the like the locale is the bare "C", in which the toolkit can name only files in ASCII. The file that
-// a script names must open there too.
+// Under cron and the like the locale is the bare "C", or one that is not installed, in which the toolkit can name only
+// files in ASCII. The file that a script names must open there too.
 void preferUtf8ToAscii()
 {
     std::setlocale(LC_CTYPE, "");
     if (qstrcmp(nl_langinfo(CODESET), "ANSI_X3.4-1968") != 0)
         return;
-    qputenv(qEnvironmentVariableIsEmpty("LC_ALL") ? "LC_CTYPE" : "LC_ALL", "C.UTF-8");
+    // Of LC_ALL, which would have the last word, the language is kept.
+    const QByteArray all = qgetenv("LC_ALL");
+    if (!all.isEmpty()) {
+        qputenv("LANG", all);
+        qunsetenv("LC_ALL");
+    }
+    qputenv("LC_CTYPE", "C.UTF-8");
 }
 
 } // namespace

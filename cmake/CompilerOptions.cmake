@@ -11,7 +11,7 @@ target_compile_definitions(orvanta_options INTERFACE
     QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
 target_compile_options(orvanta_options INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align
-    -Wformat=2 -Wnull-dereference)
+    -Wformat=2)
 if(ORVANTA_WARNINGS_AS_ERRORS)
     target_compile_options(orvanta_options INTERFACE -Werror)
 endif()

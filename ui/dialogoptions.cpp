@@ -7,6 +7,7 @@
 #include "settings/appsettings.h"
 #include "ui/faderwidget.h"
 #include "ui/shell.h"
+#include "ui/visualstyle.h"
 #include "update/versioncheck.h"
 
 #include <QCoreApplication>
@@ -62,6 +63,7 @@ DialogOptions::DialogOptions(QWidget *parent, Qt::WindowFlags flags)
     ui->listWidget->setCurrentRow(0);
     setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
     LanguageManager::instance().fillLanguageTree(ui->listLocale);
+    VisualStyle::makeSelectionReadable(ui->listLocale);
     loadSettings();
     // Only now, so that neither the first page fades in nor filling the list switches the language.
     connect(ui->listLocale, &QTreeWidget::itemSelectionChanged, this, &DialogOptions::retranslate);

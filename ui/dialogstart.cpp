@@ -7,6 +7,7 @@
 #include "settings/appsettings.h"
 #include "ui/faderwidget.h"
 #include "ui/globalposition.h"
+#include "ui/visualstyle.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -31,6 +32,7 @@ DialogStart::DialogStart(QWidget *parent, Qt::WindowFlags flags)
 {
     ui->setupUi(this);
     ui->stackedWidget->setCurrentIndex(0);
+    VisualStyle::makeSelectionReadable(ui->listLocale);
     showWelcomeText();
     connect(ui->listLocale, &QTreeWidget::itemSelectionChanged, this, &DialogStart::retranslate);
     connect(ui->buttonNext, &QPushButton::clicked, this, &DialogStart::buttonNextPressed);

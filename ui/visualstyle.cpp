@@ -1,5 +1,6 @@
 #include "ui/visualstyle.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QPalette>
 
@@ -45,4 +46,11 @@ void VisualStyle::apply()
         palette.setBrush(brush.group, brush.role, QColor(QLatin1String(brush.color)));
     QApplication::setPalette(palette);
     qApp->setStyleSheet(styleSheet);
+}
+
+void VisualStyle::makeSelectionReadable(QAbstractItemView *list)
+{
+    QPalette palette = list->palette();
+    palette.setColor(QPalette::Inactive, QPalette::HighlightedText, QColor(QStringLiteral("#333")));
+    list->setPalette(palette);
 }

@@ -8,6 +8,7 @@
 #include <QMessageBox>
 #include <QMetaEnum>
 #include <QMetaProperty>
+#include <QNetworkProxy>
 #include <QPushButton>
 #include <QTimer>
 #include <QWidget>
@@ -113,6 +114,15 @@ void throwIfAsked()
         throw QStringLiteral("thrown by a test");
 }
 
+// Sends the program's requests to a server of the test, whatever host they are for.
+void useProxyIfAsked()
+{
+    const int port = qEnvironmentVariableIntValue("ORVANTA_INSPECTOR_PROXY");
+    if (port > 0)
+        QNetworkProxy::setApplicationProxy(
+            QNetworkProxy(QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"), static_cast<quint16>(port)));
+}
+
 } // namespace
 
 class InspectorPlugin final : public QGenericPlugin
@@ -124,6 +134,7 @@ public:
     QObject *create(const QString &, const QString &) override
     {
         QTimer::singleShot(0, qApp, throwIfAsked);
+        useProxyIfAsked();
         return new Inspector(qEnvironmentVariable("ORVANTA_INSPECTOR")); // the toolkit owns it
     }
 };

@@ -139,21 +139,86 @@ QList<InspectedWidget> InspectedProgram::windows() const
     return widgets;
 }
 
-InspectedWidget InspectedProgram::waitForWindow(const QString &title)
+template<typename Choose>
+InspectedWidget InspectedProgram::waitFor(const QString &title, Choose choose)
 {
+    // The window manager may still be placing the window, so its place must be the same twice in a row.
+    QRect lastGeometry;
     const QDeadlineTimer deadline(30000);
     while (!deadline.hasExpired() && m_process.state() != QProcess::NotRunning) {
         const auto all = windows();
         for (const InspectedWidget &window : all) {
-            if (window.property("windowTitle") == title && window.isExposed())
-                return window;
+            if (window.property("windowTitle") != title || !window.isExposed())
+                continue;
+            const InspectedWidget chosen = choose(window);
+            if (chosen.isNull())
+                continue;
+            if (chosen.geometry() == lastGeometry)
+                return chosen;
+            lastGeometry = chosen.geometry();
         }
         m_process.waitForFinished(50);
     }
     return {};
 }
 
+InspectedWidget InspectedProgram::waitForWindow(const QString &title)
+{
+    return waitFor(title, [](const InspectedWidget &window) {
+        return window.property("isActiveWindow") == QLatin1String("true") ? window : InspectedWidget();
+    });
+}
+
+InspectedWidget InspectedProgram::waitForText(const QString &title, const QString &objectName, const char *property,
+                                              const QString &text)
+{
+    return waitFor(title, [&](const InspectedWidget &window) {
+        const InspectedWidget widget = window.objectName() == objectName ? window : window.find(objectName);
+        return !widget.isNull() && widget.property(property) == text ? widget : InspectedWidget();
+    });
+}
+
+namespace {
+
+void runXdotool(const QStringList &arguments)
+{
+    QCOMPARE(QProcess::execute(QStringLiteral("xdotool"), arguments), 0);
+}
+
+QStringList moveTo(const QPoint &position)
+{
+    return {QStringLiteral("mousemove"), QString::number(position.x()), QString::number(position.y())};
+}
+
+} // namespace
+
 void pressKey(const QString &key)
 {
-    QCOMPARE(QProcess::execute(QStringLiteral("xdotool"), {QStringLiteral("key"), key}), 0);
+    runXdotool({QStringLiteral("key"), key});
+}
+
+void typeText(const QString &text)
+{
+    runXdotool({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("5"), text});
+}
+
+void click(const InspectedWidget &widget)
+{
+    runXdotool(moveTo(widget.geometry().center()) + QStringList{QStringLiteral("click"), QStringLiteral("1")});
+}
+
+void dragMouse(const QRect &from, const QRect &to)
+{
+    constexpr int steps = 20;
+    runXdotool(moveTo(from.center()) + QStringList{QStringLiteral("mousedown"), QStringLiteral("1")});
+    for (int step = 1; step <= steps; ++step) {
+        runXdotool(moveTo(from.center() + (to.center() - from.center()) * step / steps));
+        QTest::qSleep(20);
+    }
+    // A few small moves on the spot, as of a hand: the protocol answers each with the target's consent.
+    for (const int offset : {1, 0, 1}) {
+        runXdotool(moveTo(to.center() + QPoint(offset, 0)));
+        QTest::qSleep(100);
+    }
+    runXdotool({QStringLiteral("mouseup"), QStringLiteral("1")});
 }

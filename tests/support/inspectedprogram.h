@@ -53,12 +53,20 @@ public:
 
     /// All windows visible at this moment; none when the program does not answer.
     QList<InspectedWidget> windows() const;
-    /// The first window of that title once it is exposed, or a null one when the program ends or 30 seconds pass.
+    /// The first window of that title once it is exposed and has the keyboard, or a null one when the program ends or
+    /// 30 seconds pass.
     InspectedWidget waitForWindow(const QString &title);
+    /// The first widget of that object name, in any exposed window of that title, once its property has that text, or a
+    /// null one when the program ends or 30 seconds pass.
+    InspectedWidget waitForText(const QString &title, const QString &objectName, const char *property,
+                                const QString &text);
 
     QProcess &process() { return m_process; }
 
 private:
+    template<typename Choose>
+    InspectedWidget waitFor(const QString &title, Choose choose);
+
     QTemporaryDir m_socketFolder;
     QString m_executable;
     QProcessEnvironment m_environment;
@@ -68,3 +76,13 @@ private:
 
 /// Presses and releases a key, named as xdotool names it, for the window that has the focus.
 void pressKey(const QString &key);
+
+/// Types a text for the window that has the focus.
+void typeText(const QString &text);
+
+/// Clicks with the left button in the middle of a widget.
+void click(const InspectedWidget &widget);
+
+/// Presses the left button in the middle of a rectangle on the screen, moves to the middle of another in small steps,
+/// and releases it.
+void dragMouse(const QRect &from, const QRect &to);

@@ -1,5 +1,6 @@
 #include "configuration.h"
 #include "settings/appsettings.h"
+#include "tests/support/webserver.h"
 #include "update/versioncheck.h"
 
 #include <QApplication>
@@ -46,13 +47,6 @@ void askAt(quint16 port)
     QNetworkProxy::setApplicationProxy(QNetworkProxy(QNetworkProxy::HttpProxy, str("127.0.0.1"), port));
 }
 
-quint16 freePort()
-{
-    QTcpServer server;
-    server.listen(QHostAddress::LocalHost);
-    return server.serverPort();
-}
-
 qint64 residentKilobytes()
 {
     QFile file(str("/proc/self/status"));
@@ -71,73 +65,6 @@ void resetPeakOfMemory()
     QVERIFY(file.open(QIODevice::WriteOnly));
     QVERIFY(file.write("5") == 1 && file.flush());
 }
-
-/// A web server that answers every request with one body and writes down what it was asked.
-class WebServer final
-{
-public:
-    WebServer()
-        : m_port(freePort())
-    {
-        write("nginx.conf", "daemon off;\nmaster_process off;\npid nginx.pid;\nerror_log error.log;\n"
-                            "events {}\n"
-                            "http {\n"
-                            "  log_format whole '$request|$http_accept|$status';\n"
-                            "  access_log access.log whole;\n"
-                            "  client_body_temp_path client; proxy_temp_path proxy; fastcgi_temp_path fastcgi;\n"
-                            "  uwsgi_temp_path uwsgi; scgi_temp_path scgi;\n"
-                            "  gzip on; gzip_types *; gzip_min_length 1; gzip_http_version 1.0;\n"
-                            "  server {\n"
-                            "    listen 127.0.0.1:" +
-                                QByteArray::number(m_port) +
-                                ";\n"
-                                "    root .;\n"
-                                "    location = /latest.php { try_files /body =404; default_type text/plain; }\n"
-                                "    location / { return 404; }\n"
-                                "  }\n"
-                                "}\n");
-        m_process.start(str("nginx"), {str("-p"), m_folder.path(), str("-c"), m_folder.filePath(str("nginx.conf")),
-                                       str("-e"), m_folder.filePath(str("error.log"))});
-        m_process.waitForStarted();
-        const auto accepts = [this] {
-            QTcpSocket socket;
-            socket.connectToHost(QHostAddress::LocalHost, m_port);
-            return socket.waitForConnected(1000);
-        };
-        for (int i = 0; i < 100 && !accepts(); ++i)
-            QTest::qSleep(50);
-        askAt(m_port);
-    }
-
-    ~WebServer()
-    {
-        m_process.kill();
-        m_process.waitForFinished();
-    }
-
-    void setBody(const QByteArray &body) { write("body", body); }
-
-    QList<QByteArray> requests() const
-    {
-        QFile file(m_folder.filePath(str("access.log")));
-        QList<QByteArray> lines =
-            file.open(QIODevice::ReadOnly) ? file.readAll().trimmed().split('\n') : QList<QByteArray>();
-        lines.removeAll(QByteArray());
-        return lines;
-    }
-
-private:
-    void write(const char *name, const QByteArray &content)
-    {
-        QFile file(m_folder.filePath(str(name)));
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-            QTest::qFail("cannot write a test file", __FILE__, __LINE__);
-    }
-
-    QTemporaryDir m_folder;
-    quint16 m_port;
-    QProcess m_process;
-};
 
 /// A server that does what no server should.
 class MisbehavingServer final
@@ -283,6 +210,7 @@ private Q_SLOTS:
     void aManualCheckSendsItsWholeQuery()
     {
         WebServer server;
+        askAt(server.port());
         server.setBody("version|1.1.6.2");
         AppSettings::instance().setValue(str("IsFirstStart"), false);
         run(true);
@@ -295,6 +223,7 @@ private Q_SLOTS:
     void anAutomaticCheckSendsItsWholeQuery()
     {
         WebServer server;
+        askAt(server.port());
         server.setBody("version|1.1.6.2");
         AppSettings::instance().setValue(str("IsFirstStart"), true);
         run(false);
@@ -306,6 +235,7 @@ private Q_SLOTS:
     void whetherItIsTheFirstStartIsReadWhenTheCheckRuns()
     {
         WebServer server;
+        askAt(server.port());
         server.setBody("version|1.1.6.2");
         AppSettings::instance().setValue(str("IsFirstStart"), true);
         start(false);
@@ -325,6 +255,7 @@ private Q_SLOTS:
     {
         QFETCH(bool, manual);
         WebServer server;
+        askAt(server.port());
         server.setBody("version|1.1.6.3#changes|<i>%1</i> fixes#log|http://log.example/%2#url|http://get.example/new");
         m_answer = QMessageBox::Yes;
         run(manual);
@@ -351,6 +282,7 @@ private Q_SLOTS:
     void noOpensNothingAndIsRememberedAllTheSame()
     {
         WebServer server;
+        askAt(server.port());
         server.setBody("version|2.0.0.0#url|http://get.example/new");
         m_answer = QMessageBox::No;
         run(true);
@@ -362,6 +294,7 @@ private Q_SLOTS:
     void onlyTheWebIsOpened()
     {
         WebServer server;
+        askAt(server.port());
         server.setBody("version|2.0.0.0#url|file:///etc/passwd");
         m_answer = QMessageBox::Yes;
         run(true);
@@ -373,6 +306,7 @@ private Q_SLOTS:
     void aLinkInTheBoxOpensOnlyTheWeb()
     {
         WebServer server;
+        askAt(server.port());
         server.setBody("version|2.0.0.0#log|file:///etc/passwd");
         m_answer = QMessageBox::No;
         int labels = 0;
@@ -412,6 +346,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, body);
         QFETCH(bool, manual);
         WebServer server;
+        askAt(server.port());
         server.setBody(body);
         run(manual);
         QTRY_COMPARE(debugLines, QStringList{str("*success*version check successful")});
@@ -447,6 +382,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, body);
         QFETCH(bool, manual);
         WebServer server;
+        askAt(server.port());
         server.setBody(body);
         run(manual);
         QCOMPARE(m_boxes.size(), 1);
@@ -474,12 +410,14 @@ private Q_SLOTS:
         QFETCH(bool, manual);
         std::unique_ptr<WebServer> webServer;
         std::unique_ptr<MisbehavingServer> misbehavingServer;
-        if (way == str("404"))
+        if (way == str("404")) {
             webServer = std::make_unique<WebServer>();
-        else if (way == str("refused"))
+            askAt(webServer->port());
+        } else if (way == str("refused")) {
             askAt(freePort());
-        else
+        } else {
             misbehavingServer = std::make_unique<MisbehavingServer>(way);
+        }
 
         // The servers that send too much have half a gibibyte and more to send.
         resetPeakOfMemory();
@@ -517,6 +455,7 @@ private Q_SLOTS:
     void aTimeStampOfTodaySkipsAnAutomaticCheckOnly()
     {
         WebServer server;
+        askAt(server.port());
         server.setBody("version|1.1.6.2");
         setTimeStamp(today());
         start(false);
@@ -539,6 +478,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, text);
         WebServer server;
+        askAt(server.port());
         server.setBody("version|1.1.6.2");
         setTimeStamp(text);
         run(false);
@@ -549,6 +489,7 @@ private Q_SLOTS:
     void aManualCheckCountsForTheAutomaticOnesOfTheDay()
     {
         WebServer server;
+        askAt(server.port());
         server.setBody("version|1.1.6.2");
         run(true);
         debugLines.clear();
@@ -560,6 +501,7 @@ private Q_SLOTS:
     void everyCheckIsIndependent()
     {
         WebServer server;
+        askAt(server.port());
         server.setBody("version|1.1.6.2");
         start(true);
         start(true);
@@ -602,6 +544,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, body);
         WebServer server;
+        askAt(server.port());
         server.setBody(body);
         m_watch.stop();
         QTimer::singleShot(0, this, [this] { start(true); });

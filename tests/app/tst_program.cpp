@@ -1,0 +1,269 @@
+#include "configuration.h"
+#include "tests/support/inspectedprogram.h"
+#include "tests/support/webserver.h"
+
+#include <QDate>
+#include <QDir>
+#include <QDomDocument>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+const QString windowTitle = QStringLiteral("Orvanta");
+const QString md5OfAbc = QStringLiteral("900150983cd24fb0d6963f7d28e17f72");
+
+QString str(const char *text)
+{
+    return QString::fromUtf8(text);
+}
+
+} // namespace
+
+/// The built executable with its windows, used as a person does: with keys, clicks and a drag on a real display.
+class TestProgram final : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+
+    QString path(const char *name) const { return m_folder->filePath(str(name)); }
+
+    QString write(const char *name, const QByteArray &content) const
+    {
+        QDir().mkpath(QFileInfo(path(name)).path());
+        QFile file(path(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+            QTest::qFail("cannot write a test file", __FILE__, __LINE__);
+        return file.fileName();
+    }
+
+    // The program from the build's own folder, where its catalogues are, with a data folder of its own.
+    void prepare(InspectedProgram &program) const
+    {
+        program.setVariable(str("XDG_DATA_HOME"), path("data"));
+        program.setVariable(str("LC_ALL"), str("en_US.UTF-8"));
+        program.setWorkingDirectory(m_folder->path());
+    }
+
+    // Settings of a program that has been started before and shows no splash.
+    void writeSettings(const QByteArray &more = {}) const
+    {
+        write("data/Kelvory/Orvanta/config/global.xml", "<Settings><IsFirstStart>false</IsFirstStart>"
+                                                        "<DisableSplashScreen>true</DisableSplashScreen>" +
+                                                            more + "</Settings>");
+    }
+
+    // The text of a saved setting, or "none".
+    QString saved(const char *name, const char *file = "data/Kelvory/Orvanta/config/global.xml") const
+    {
+        QFile settings(path(file));
+        QDomDocument document;
+        if (!settings.open(QIODevice::ReadOnly) || !document.setContent(&settings))
+            return str("no settings");
+        QDomElement element = document.documentElement();
+        const QStringList parts = str(name).split(QLatin1Char('/'));
+        for (const QString &part : parts)
+            element = element.firstChildElement(part);
+        return element.isNull() ? str("none") : element.text();
+    }
+
+    static void waitUntilReady(InspectedProgram &program)
+    {
+        // The window is transparent until everything else is done.
+        QVERIFY(!program.waitForText(windowTitle, str("MainWindow"), "windowOpacity", str("1")).isNull());
+        QVERIFY(!program.waitForText(windowTitle, str("MainWindow"), "isActiveWindow", str("true")).isNull());
+    }
+
+    static void close(InspectedProgram &program)
+    {
+        pressKey(str("alt+F4"));
+        QCOMPARE(program.exitCode(), 0);
+    }
+
+private Q_SLOTS:
+    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
+
+    void theFirstStartGreetsAndRemembersThat()
+    {
+        InspectedProgram program(QStringLiteral(ORVANTA_EXECUTABLE));
+        prepare(program);
+        program.start({});
+        const InspectedWidget page = program.waitForText(QString(), str("stackedWidget"), "currentIndex", str("0"));
+        QVERIFY(!page.isNull());
+        for (const InspectedWidget &window : program.windows())
+            QVERIFY(window.objectName() != str("MainWindow"));
+        pressKey(str("Escape")); // is refused
+        pressKey(str("Return"));
+        QVERIFY(!program.waitForText(QString(), str("stackedWidget"), "currentIndex", str("1")).isNull());
+        pressKey(str("Return"));
+        waitUntilReady(program);
+        close(program);
+        const QByteArray lines = program.standardError();
+        QVERIFY(lines.contains("languages loaded\n"));
+        QVERIFY(lines.contains("*success*initialization complete\n"));
+
+        QCOMPARE(saved("IsFirstStart"), str("false"));
+        QCOMPARE(saved("Language"), str("en_UK"));
+        QCOMPARE(saved("VersionCheck/Auto"), str("true"));
+        QCOMPARE(saved("VersionCheck/TimeStamp"), str("none"));
+        QCOMPARE(saved("DisableSplashScreen"), str("false"));
+        QCOMPARE(saved("Window/StayOnTop"), str("false"));
+        QCOMPARE(saved("Window/Opacity"), str("1"));
+        QCOMPARE(saved("Window/RestoreLayout"), str("false"));
+        QCOMPARE(saved("Window/RestoreGeometry"), str("false"));
+        QCOMPARE(saved("Window/WndGeometry"), str("none"));
+        QVERIFY(!QDir(path("config")).exists());
+    }
+
+    void theSecondStartOpensTheWindowAtOnce()
+    {
+        writeSettings("<Language>de_DE</Language>");
+        InspectedProgram program(QStringLiteral(ORVANTA_EXECUTABLE));
+        prepare(program);
+        program.start({});
+        waitUntilReady(program);
+        QCOMPARE(program.windows().size(), 1);
+        QVERIFY(!program.waitForText(windowTitle, str("label_2"), "text", str("Pfad:")).isNull());
+        close(program);
+        QCOMPARE(saved("Language"), str("de_DE"));
+    }
+
+    void aPortableStartKeepsEverythingBesideTheProgram()
+    {
+        QVERIFY(QDir().mkpath(path("program")));
+        QVERIFY(QFile::copy(QStringLiteral(ORVANTA_EXECUTABLE), path("program/orv")));
+        write("program/portable.txt", {});
+        write("program/config/global.xml", "<Settings><IsFirstStart>false</IsFirstStart>"
+                                           "<DisableSplashScreen>true</DisableSplashScreen></Settings>");
+        InspectedProgram program(path("program/orv"));
+        prepare(program);
+        program.start({});
+        waitUntilReady(program);
+        close(program);
+        QCOMPARE(saved("VersionCheck/Auto", "program/config/global.xml"), str("true"));
+        QVERIFY(!QFileInfo::exists(path("data")));
+        QVERIFY(!QFileInfo::exists(path("program/writable")));
+    }
+
+    void aFileOnTheCommandLineIsAdded_data()
+    {
+        QTest::addColumn<QString>("argument");
+        QTest::addColumn<bool>("isAbsolute");
+        QTest::newRow("absolute") << str("absolute") << true;
+        QTest::newRow("relative") << str("two words.bin") << false;
+    }
+
+    void aFileOnTheCommandLineIsAdded()
+    {
+        QFETCH(QString, argument);
+        QFETCH(bool, isAbsolute);
+        writeSettings();
+        const QString file = write("two words.bin", "abc");
+        InspectedProgram program(QStringLiteral(ORVANTA_EXECUTABLE));
+        prepare(program);
+        program.start({isAbsolute ? file : argument});
+        QVERIFY(!program.waitForText(windowTitle, str("lineEditCheckSumOut"), "text", md5OfAbc).isNull());
+        QVERIFY(!program.waitForText(windowTitle, str("lineEditPath"), "text", file).isNull());
+        waitUntilReady(program);
+        close(program);
+    }
+
+    void aPastedChecksumIsValidOrNot()
+    {
+        writeSettings();
+        const QString file = write("sample.bin", "abc");
+        InspectedProgram program(QStringLiteral(ORVANTA_EXECUTABLE));
+        prepare(program);
+        program.start({file});
+        waitUntilReady(program);
+        click(program.waitForText(windowTitle, str("lineEditCheckSumIn"), "text", QString()));
+        typeText(md5OfAbc.toUpper());
+        QVERIFY(!program.waitForText(windowTitle, str("statusbar"), "styleSheet", str("color:#3a3")).isNull());
+        pressKey(str("BackSpace"));
+        QVERIFY(!program.waitForText(windowTitle, str("statusbar"), "styleSheet", str("color:#a33")).isNull());
+        close(program);
+    }
+
+    void aFileIsDroppedFromAnotherProgram()
+    {
+        writeSettings();
+        const QString file = write("dropped.bin", "abc");
+        InspectedProgram program(QStringLiteral(ORVANTA_EXECUTABLE));
+        prepare(program);
+        program.start({});
+        waitUntilReady(program);
+        InspectedProgram source(QStringLiteral(ORVANTA_DRAG_SOURCE));
+        prepare(source);
+        source.process().setWorkingDirectory(m_folder->path());
+        source.start({file});
+        const InspectedWidget from = source.waitForWindow(str("drag source"));
+        QVERIFY(!from.isNull());
+        const InspectedWidget to = program.waitForText(windowTitle, str("lineEditPath"), "text", QString());
+        QVERIFY(!from.geometry().intersects(to.geometry()));
+        dragMouse(from.geometry(), to.geometry());
+        QVERIFY(!program.waitForText(windowTitle, str("lineEditCheckSumOut"), "text", md5OfAbc).isNull());
+        QVERIFY(!program.waitForText(windowTitle, str("lineEditPath"), "text", file).isNull());
+    }
+
+    void theLanguageIsSwitchedInTheOptions()
+    {
+        writeSettings();
+        InspectedProgram program(QStringLiteral(ORVANTA_EXECUTABLE));
+        prepare(program);
+        program.start({});
+        waitUntilReady(program);
+        click(program.waitForText(windowTitle, str("toolBar"), "visible", str("true"))); // beside the button: nothing
+        for (int i = 0; i < 5; ++i)
+            pressKey(str("Tab"));
+        pressKey(str("space"));
+        QVERIFY(!program.waitForWindow(str("Settings")).isNull());
+        pressKey(str("Down"));
+        QVERIFY(!program.waitForText(str("Settings"), str("stackedWidget"), "currentIndex", str("1")).isNull());
+        const InspectedWidget list = program.waitForText(str("Settings"), str("listLocale"), "visible", str("true"));
+        click(list);
+        pressKey(str("Home"));
+        QVERIFY(!program.waitForWindow(str("设置")).isNull()); // sorted, zh_CN comes first
+        QVERIFY(!program.waitForText(windowTitle, str("label_2"), "text", str("路径：")).isNull());
+        pressKey(str("Escape"));
+        QTRY_COMPARE_WITH_TIMEOUT(program.windows().size(), 1, 10000);
+        close(program);
+        QCOMPARE(saved("Language"), str("zh_CN"));
+    }
+
+    void checkNowAsksTheServer()
+    {
+        writeSettings();
+        WebServer server;
+        server.setBody("version|1.1.6.3#changes|Fixes#log|http://log.example/#url|http://get.example/");
+        InspectedProgram program(QStringLiteral(ORVANTA_EXECUTABLE));
+        prepare(program);
+        program.setVariable(str("ORVANTA_INSPECTOR_PROXY"), QString::number(server.port()));
+        program.start({});
+        waitUntilReady(program);
+        for (int i = 0; i < 5; ++i)
+            pressKey(str("Tab"));
+        pressKey(str("space"));
+        QVERIFY(!program.waitForWindow(str("Settings")).isNull());
+        click(program.waitForText(str("Settings"), str("pushButtonUpdate"), "visible", str("true")));
+        const InspectedWidget box = program.waitForWindow(str("BrimTale 1.1.6.2"));
+        QCOMPARE(box.property("text"), str("New version available: <b>Brimtale 1.1.6.3</b>"));
+        QCOMPARE(box.buttons(), (QStringList{str("Yes"), str("No")}));
+        pressKey(str("Escape"));
+        QTRY_COMPARE_WITH_TIMEOUT(program.windows().size(), 2, 10000);
+        pressKey(str("Escape"));
+        QTRY_COMPARE_WITH_TIMEOUT(program.windows().size(), 1, 10000);
+        close(program);
+        QCOMPARE(server.requests(),
+                 QList<QByteArray>{
+                     QByteArray("GET http://") + Configuration::updateHost +
+                     "/latest.php?id=orvanta&version=1.1.6.2&fresh=0&lang=en_US&beta=1&arch=64 HTTP/1.1|-|200"});
+        QCOMPARE(saved("VersionCheck/TimeStamp"), QDate::currentDate().toString(str("dd.MM.yyyy")));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestProgram)
+#include "tst_program.moc"

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QProcess>
+#include <QTemporaryDir>
+
+/// A port on this machine that nobody listens on at this moment.
+quint16 freePort();
+
+/// A real web server on this machine that answers every request for the update page with one body, packed if the client
+/// can unpack, and writes down what it was asked. Without a body it answers 404. It takes requests as a proxy does,
+/// too.
+class WebServer final
+{
+public:
+    WebServer();
+    ~WebServer();
+
+    quint16 port() const { return m_port; }
+    void setBody(const QByteArray &body);
+    /// Request line, "|", the header Accept, "|", and the status of the answer; in the order of the requests.
+    QList<QByteArray> requests() const;
+
+private:
+    void write(const QString &name, const QByteArray &content);
+
+    QTemporaryDir m_folder;
+    quint16 m_port;
+    QProcess m_process;
+};
