@@ -12,6 +12,13 @@ target_compile_definitions(orvanta_options INTERFACE
 target_compile_options(orvanta_options INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align
     -Wformat=2)
+# What is shipped is hardened, and says nothing of where it was built.
+target_compile_options(orvanta_options INTERFACE
+    -ffile-prefix-map=${CMAKE_BINARY_DIR}=. -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.
+    $<$<CONFIG:Release>:-fstack-protector-strong> $<$<CONFIG:Release>:-D_FORTIFY_SOURCE=2>)
+if(UNIX)
+    target_link_options(orvanta_options INTERFACE -Wl,-z,relro -Wl,-z,now)
+endif()
 if(ORVANTA_WARNINGS_AS_ERRORS)
     target_compile_options(orvanta_options INTERFACE -Werror)
 endif()

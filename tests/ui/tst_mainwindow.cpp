@@ -508,6 +508,26 @@ private Q_SLOTS:
                                          str("lineEditCheckSumIn"), str("pushButtonWebsite"), str("Settings")}));
     }
 
+    void aRightToLeftLayoutIsMirrored()
+    {
+        QApplication::setLayoutDirection(Qt::RightToLeft);
+        showWindow();
+        const auto left = [this](const char *name) {
+            return widget<QWidget>(name)->mapTo(m_window.get(), QPoint()).x();
+        };
+        const int label = left("label_2");
+        const int line = left("lineEditPath");
+        const int button = left("toolButtonFolder");
+        const int logo = left("pushButtonWebsite");
+        const int title = left("label_5");
+        const QString picture = qEnvironmentVariable("ORVANTA_TEST_PICTURE");
+        if (!picture.isEmpty())
+            m_window->grab().save(picture);
+        QApplication::setLayoutDirection(Qt::LeftToRight);
+        QVERIFY(button < line && line < label);
+        QVERIFY(logo < title);
+    }
+
     void controlsWithoutATextHaveANameForTheBlind()
     {
         auto *config =
