@@ -37,7 +37,7 @@ void setWidgetStyle()
 void setIcon()
 {
     QIcon icon;
-    for (const int size : {16, 24, 32, 48, 64, 128, 256})
+    for (const int size : {16, 24, 32, 48, 64})
         icon.addFile(QStringLiteral(":/img/orvanta-%1.png").arg(size));
     QApplication::setWindowIcon(icon);
 }
