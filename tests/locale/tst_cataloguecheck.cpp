@@ -104,6 +104,7 @@ private Q_SLOTS:
         QTest::newRow("a message without an end") << withMessage(sound.chopped(1));
         QTest::newRow("a translation beyond the end") << withMessage("\x03" + number(100) + "ab");
         QTest::newRow("a translation of 4 GiB") << withMessage("\x03" + number(0xfffffffe) + "ab");
+        QTest::newRow("half a character") << withMessage(part(3, "abc") + char(1));
         QTest::newRow("an odd length, read as a step back") << withMessage("\x03" + number(0x9c95cd21) + "\x01");
         QTest::newRow("a source beyond the end") << withMessage("\x06" + number(100) + "ab");
         QTest::newRow("a length beyond the end") << withMessage("\x06" + QByteArray("\0\0", 2));
