@@ -13,7 +13,6 @@
 #include <QIcon>
 #include <QLocale>
 #include <QScreen>
-#include <QStyleFactory>
 
 namespace {
 
@@ -23,15 +22,6 @@ void setIdentity()
     QCoreApplication::setApplicationVersion(QString::fromLatin1(Configuration::version));
     QCoreApplication::setOrganizationName(QStringLiteral("Kelvory"));
     QCoreApplication::setOrganizationDomain(QString::fromLatin1(Configuration::organisationDomain));
-}
-
-// Where "plastique" is not to be had, its heir takes its place; never the platform's own look, which the style sheet
-// is not made for.
-void setWidgetStyle()
-{
-    const QString plastique = QStringLiteral("plastique");
-    const bool isThere = QStyleFactory::keys().contains(plastique, Qt::CaseInsensitive);
-    QApplication::setStyle(isThere ? plastique : QStringLiteral("fusion"));
 }
 
 void setIcon()
@@ -92,7 +82,7 @@ Application::~Application()
 void Application::init()
 {
     setIdentity();
-    setWidgetStyle();
+    VisualStyle::useWidgetStyle();
     setIcon();
     loadSettings();
     LanguageManager::instance().loadLanguages();

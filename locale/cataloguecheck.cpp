@@ -14,15 +14,12 @@ enum Section : quint8
     Contexts = 0x2f,
     Hashes = 0x42,
     Messages = 0x69,
-    NumerusRules = 0x88,
     Dependencies = 0x96
 };
 enum Part : quint8
 {
     End = 1,
-    SourceText16 = 2,
     Translation = 3,
-    Context16 = 4,
     Obsolete1 = 5,
     SourceText = 6,
     Context = 7,

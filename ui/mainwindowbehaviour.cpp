@@ -5,6 +5,7 @@
 #include "ui/globalposition.h"
 #include "ui/mainwindow.h"
 #include "ui/windowmenu.h"
+#include "ui/windowplace.h"
 #include "update/versioncheck.h"
 #include "update/versioncheckschedule.h"
 
@@ -108,9 +109,9 @@ void MainWindow::restoreWindowGeometry()
     restoreGeometry(storedBytes(WindowGeometry));
     resize(size().expandedTo(minimumSizeHint())); // a damaged value can leave the window without any height
     // The whole desktop counts, not the free part of one screen.
-    const QSize desktop = QGuiApplication::primaryScreen()->virtualSize();
-    if (x() < 0 || y() < 0 || x() > desktop.width() - 50 || y() > desktop.height() - 50)
-        move(50, 50);
+    const QPoint place = reachablePosition(pos(), QGuiApplication::primaryScreen()->virtualSize());
+    if (place != pos())
+        move(place);
 }
 
 void MainWindow::storeSettings()

@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QPalette>
+#include <QStyleFactory>
 
 namespace {
 
@@ -38,6 +39,13 @@ constexpr Brush brushes[] = {
 };
 
 } // namespace
+
+void VisualStyle::useWidgetStyle()
+{
+    const QString plastique = QStringLiteral("plastique");
+    const bool isThere = QStyleFactory::keys().contains(plastique, Qt::CaseInsensitive);
+    QApplication::setStyle(isThere ? plastique : QStringLiteral("fusion"));
+}
 
 void VisualStyle::apply()
 {

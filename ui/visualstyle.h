@@ -5,6 +5,10 @@ class QAbstractItemView;
 /// The look that all windows share.
 namespace VisualStyle {
 
+/// Gives the application the widget style "plastique", or, where that is not to be had, its heir "fusion"; never the
+/// platform's own look, which the style sheet is not made for.
+void useWidgetStyle();
+
 /// Gives the application its palette and its style sheet; called once the widget style is set and before any window is
 /// made, since the palette starts from that of the style.
 void apply();

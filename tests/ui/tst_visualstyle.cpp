@@ -1,6 +1,8 @@
 #include "tests/ui/uitest.h"
 
 #include <QPalette>
+#include <QStyle>
+#include <QStyleFactory>
 
 class TestVisualStyle final : public UiTest
 {
@@ -12,6 +14,17 @@ private Q_SLOTS:
         QFile file(QStringLiteral(ORVANTA_TEST_DATA "/style/application.css"));
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(qApp->styleSheet(), QString::fromUtf8(file.readAll()));
+    }
+
+    void theWidgetStyleIsPlastiqueOrItsHeir()
+    {
+        const bool isThere = QStyleFactory::keys().contains(str("plastique"), Qt::CaseInsensitive);
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+        QVERIFY(isThere);
+#endif
+        qApp->setStyleSheet(QString()); // it wraps the style
+        QCOMPARE(QApplication::style()->objectName().toLower(), isThere ? str("plastique") : str("fusion"));
+        VisualStyle::apply();
     }
 
     void nineBrushesOfThePaletteAreSetAndNoOther()

@@ -6,7 +6,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QStyleFactory>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -66,8 +65,7 @@ private Q_SLOTS:
         QVERIFY(QDir::setCurrent(m_folder.path()));
         QCoreApplication::setApplicationName(str("Orvanta"));
         QCoreApplication::setApplicationVersion(str("1.1.6.2"));
-        const bool isThere = QStyleFactory::keys().contains(str("plastique"), Qt::CaseInsensitive);
-        QApplication::setStyle(isThere ? str("plastique") : str("fusion"));
+        VisualStyle::useWidgetStyle();
         QApplication::setQuitOnLastWindowClosed(false);
         VisualStyle::apply();
     }
