@@ -2,8 +2,9 @@
 
 #include <QDir>
 
-#include <shlobj.h>
 #include <windows.h>
+// After the header that it needs.
+#include <shlobj.h>
 
 QString applicationDataFolder()
 {

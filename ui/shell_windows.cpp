@@ -1,7 +1,8 @@
 #include "ui/shell.h"
 
-#include <shellapi.h>
 #include <windows.h>
+// After the header that it needs.
+#include <shellapi.h>
 
 void openWithShell(const QString &path)
 {

@@ -1,7 +1,8 @@
 #include "update/processmemory.h"
 
-#include <psapi.h>
 #include <windows.h>
+// After the header that it needs.
+#include <psapi.h>
 
 qint64 processMemory()
 {
