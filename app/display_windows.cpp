@@ -2,11 +2,37 @@
 
 #include <QGuiApplication>
 
-bool displayIsAvailable()
+#include <windows.h>
+
+namespace {
+
+// Services and tasks that run while nobody is logged on have a desktop that is never shown.
+bool desktopIsShown()
 {
+    USEROBJECTFLAGS flags = {};
+    return !GetUserObjectInformationW(GetProcessWindowStation(), UOI_FLAGS, &flags, sizeof flags, nullptr) ||
+           (flags.dwFlags & WSF_VISIBLE) != 0;
+}
+
+// Wine without an X server has a desktop too, but nothing can be put on it.
+bool windowCanBeCreated()
+{
+    const HWND window =
+        CreateWindowExW(0, L"STATIC", nullptr, WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
+    if (window == nullptr)
+        return false;
+    DestroyWindow(window);
     return true;
 }
 
+} // namespace
+
+bool displayIsAvailable()
+{
+    return desktopIsShown() && windowCanBeCreated();
+}
+
+// The one platform of the toolkit that this system has does not need one.
 void doWithoutDisplay() {}
 
 void prepareForDenseScreens()
@@ -21,5 +47,5 @@ void prepareForDenseScreens()
 
 bool boxesCanBeSeen()
 {
-    return true;
+    return displayIsAvailable();
 }
