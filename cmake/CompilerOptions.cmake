@@ -16,7 +16,13 @@ target_compile_options(orvanta_options INTERFACE
 target_compile_options(orvanta_options INTERFACE
     -ffile-prefix-map=${CMAKE_BINARY_DIR}=. -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.
     $<$<CONFIG:Release>:-fstack-protector-strong> $<$<CONFIG:Release>:-D_FORTIFY_SOURCE=2>)
-if(UNIX)
+if(WIN32)
+    # One file that needs nothing but Windows, without what nobody calls; and the same bytes from the same sources.
+    target_compile_options(orvanta_options INTERFACE -ffunction-sections -fdata-sections)
+    target_link_options(orvanta_options INTERFACE -static -s -fstack-protector-strong
+        -Wl,--gc-sections -Wl,--no-insert-timestamp
+        -Wl,--dynamicbase -Wl,--high-entropy-va -Wl,--nxcompat)
+else()
     target_link_options(orvanta_options INTERFACE -Wl,-z,relro -Wl,-z,now)
 endif()
 if(ORVANTA_WARNINGS_AS_ERRORS)
