@@ -68,8 +68,6 @@ QString splashMessage()
 Application::Application(int &argumentCount, char **arguments)
     : QApplication(argumentCount, arguments)
 {
-    // Until init() gives the program its identity it has none, whatever the platform reads from the executable.
-    setApplicationVersion(QString());
 }
 
 Application::~Application()

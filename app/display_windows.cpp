@@ -17,8 +17,7 @@ bool desktopIsShown()
 // Wine without an X server has a desktop too, but nothing can be put on it.
 bool windowCanBeCreated()
 {
-    const HWND window =
-        CreateWindowExW(0, L"STATIC", nullptr, WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
+    HWND window = CreateWindowExW(0, L"STATIC", nullptr, WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
     if (window == nullptr)
         return false;
     DestroyWindow(window);
