@@ -7,7 +7,7 @@ install_missing "${build_packages[@]}" dpkg-dev file
 
 folder=${1:-build/packages}
 build=build/package
-SOURCE_DATE_EPOCH=$(git log -1 --format=%ct 2>/dev/null || date -d "$(sed -n 's/^ -- .*>  //p' packaging/linux/changelog)" +%s)
+SOURCE_DATE_EPOCH=$(scripts/source-date.sh)
 export SOURCE_DATE_EPOCH
 rm -rf "$build"
 cmake --preset package >/dev/null

@@ -11,6 +11,14 @@ test_packages=(
     qt6-base-dev libgl-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-translations-l10n
     python3 clang clang-format clang-tidy libclang-rt-14-dev
 )
+windows_packages=(
+    g++-mingw-w64-x86-64-posix nsis
+    dpkg-dev debian-archive-keyring make perl python3
+)
+windows_test_packages=(
+    wine64 fonts-wine xvfb openbox xdotool x11-utils xclip imagemagick
+    python3-pefile clang-tidy
+)
 
 # install_missing PACKAGE...: quiet when nothing is missing.
 install_missing() {
