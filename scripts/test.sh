@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds, and runs the tests: scripts/test.sh [release|qt6|asan|fuzz|tree]...   (all by default)
+# Installs what is missing, builds, and runs the tests: scripts/test.sh [release|qt6|asan|fuzz|tree|windows]...
+# By default all; the Windows edition where the toolkit for it has been built, since that alone takes a quarter of an hour.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -26,11 +27,25 @@ test_tree() {
         xargs -P 2 -n 2 clang-tidy --quiet -p build/release 2>/dev/null
 }
 
-for part in "${@:-release qt6 asan fuzz tree}"; do
+parts="release qt6 asan fuzz tree"
+untested=""
+if [[ $# -eq 0 ]]; then
+    if scripts/windows-qt.sh --cached >/dev/null; then
+        parts+=" windows"
+    else
+        untested=" NOT tested: the Windows edition. scripts/test-windows.sh builds its toolkit first, once, and tests it."
+    fi
+fi
+
+for part in "${@:-$parts}"; do
     for name in $part; do
         case $name in
         release | qt6 | asan | fuzz) test_preset "$name" ;;
         tree) test_tree ;;
+        windows)
+            echo "== windows"
+            scripts/test-windows.sh
+            ;;
         *)
             echo "test.sh: no such part: $name" >&2
             exit 2
@@ -38,4 +53,4 @@ for part in "${@:-release qt6 asan fuzz tree}"; do
         esac
     done
 done
-echo "All tests passed."
+echo "All tests passed.$untested"

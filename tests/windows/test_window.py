@@ -1,0 +1,133 @@
+"""The program with its windows, as a person uses it: the keyboard, the clipboard, and eyes for colours."""
+
+import os
+import pathlib
+import shutil
+import xml.etree.ElementTree
+
+from support import (MD5_OF_ABC, SETTINGS_OF_A_USED_PROGRAM, TOOLS, Desktop, Program, TestCase, unpack, wait_for, wine,
+                     windows_path)
+
+GREEN = (0x33, 0xaa, 0x33)
+RED = (0xaa, 0x33, 0x33)
+# What the toolkit and the system load while a window is open, by name. (Wine itself would take the libraries that a
+# program is linked to from beside it; Windows does not, and the program is linked to none but those.)
+LIBRARIES_TO_PLANT = ["dwmapi", "iphlpapi", "netapi32", "userenv", "version", "winmm", "wtsapi32", "uxtheme", "dwrite",
+                      "wintab32", "d3d9", "dxgi", "propsys", "qwindows", "platforms/qwindows",
+                      "styles/qwindowsvistastyle", "imageformats/qico", "plugins/platforms/qwindows", "bearer/qgenericbearer"]
+
+
+class Window(TestCase):
+    def setUp(self):
+        super().setUp()
+        unpack(self.place)
+        self.program = self.place / "orv.exe"
+
+    def write_settings(self, more=""):
+        self.write("config/global.xml", SETTINGS_OF_A_USED_PROGRAM % more)
+
+    def saved(self, name, folder=None):
+        root = xml.etree.ElementTree.parse((folder or self.place) / "config/global.xml").getroot()
+        return root.findtext(name)
+
+    def start(self, text=""):
+        return Program(self.program, text, cwd=self.place)
+
+    def test_the_first_start_greets_and_keeps_everything_beside_the_program(self):
+        with self.start() as program:
+            window = Desktop.focus("Orvanta")
+            languages = Desktop.picture(window)
+            Desktop.press("Escape")  # is refused
+            Desktop.press("Return")
+            Desktop.wait_for_another_picture(window, languages)
+            Desktop.press("Return")
+            wait_for(lambda: Desktop.window("Orvanta") not in (None, window), "the main window")
+            self.assertEqual(program.close(), 0)
+        self.assertEqual(self.saved("IsFirstStart"), "false")
+        self.assertEqual(self.saved("Language"), "en_UK")
+        self.assertFalse((self.place / "writable").exists())
+
+    def test_a_file_on_the_command_line_is_checked(self):
+        self.write_settings()
+        self.write("two words.bin", "abc")
+        with self.start("two words.bin") as program:
+            window = Desktop.focus("Orvanta")
+            Desktop.press("Tab")
+            self.assertEqual(Desktop.copied_text(), windows_path(self.place / "two words.bin").replace("\\", "/"))
+            Desktop.press("Tab", "Tab")
+            Desktop.type(MD5_OF_ABC.upper())
+            wait_for(lambda: Desktop.count_pixels(window, GREEN), "VALID")
+            self.assertEqual(Desktop.count_pixels(window, RED), 0)
+            Desktop.press("BackSpace")
+            wait_for(lambda: Desktop.count_pixels(window, RED), "INVALID")
+            self.assertEqual(Desktop.count_pixels(window, GREEN), 0)
+            self.assertEqual(program.close(), 0)
+
+    def test_a_file_with_a_path_longer_than_260_characters_is_checked(self):
+        self.write_settings()
+        file = self.write("/".join(["a-folder-with-a-name-of-forty-characters"] * 7) + "/sample.bin", "abc")
+        with self.start(windows_path(file)) as program:
+            window = Desktop.focus("Orvanta")
+            Desktop.press("Tab", "Tab", "Tab")
+            Desktop.type(MD5_OF_ABC)
+            wait_for(lambda: Desktop.count_pixels(window, GREEN), "VALID")
+            self.assertEqual(program.close(), 0)
+
+    def test_the_language_is_switched_in_the_options(self):
+        self.write_settings()
+        with self.start() as program:
+            Desktop.focus("Orvanta")
+            Desktop.press(*["Tab"] * 5, "space")
+            Desktop.focus("Settings")
+            Desktop.press("Down", "Tab", "Home")
+            Desktop.wait_for_window("设置")  # sorted, zh_CN comes first
+            Desktop.press("End")
+            Desktop.wait_for_window("Einstellungen")
+            Desktop.press("Escape")
+            wait_for(lambda: not Desktop.window("Einstellungen"), "the options to close")
+            Desktop.focus("Orvanta")
+            Desktop.press("shift+Tab", "shift+Tab", "shift+Tab", "space")
+            Desktop.wait_for_window("Zieldatei auswählen")
+            Desktop.press("Escape")
+            wait_for(lambda: not Desktop.window("Zieldatei auswählen"), "the choice of a file to close")
+            self.assertEqual(program.close(), 0)
+        self.assertEqual(self.saved("Language"), "de_DE")
+
+    def test_an_installed_program_keeps_its_settings_where_windows_says(self):
+        (self.place / "portable").unlink()
+        folders = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Explorer\User Shell Folders"
+        before = wine("reg", "query", folders, "/v", "AppData")[1]
+        elsewhere = pathlib.Path(os.environ["WINEPREFIX"]) / "drive_c" / "Größe 文件" / "Roaming"
+        wine("reg", "add", folders, "/v", "AppData", "/d", "C:\\Größe 文件\\Roaming", "/f")
+        self.addCleanup(shutil.rmtree, elsewhere.parent, ignore_errors=True)
+        self.addCleanup(wine, "reg", "add", folders, "/v", "AppData", "/t", "REG_EXPAND_SZ", "/d",
+                        r"%USERPROFILE%\AppData\Roaming", "/f")
+        self.assertIn(r"%USERPROFILE%\AppData\Roaming", before)
+
+        settings = elsewhere / "Kelvory/Orvanta/config/global.xml"
+        settings.parent.mkdir(parents=True)
+        settings.write_text(SETTINGS_OF_A_USED_PROGRAM % "")
+        with self.start() as program:
+            self.assertEqual(program.close(), 0)
+        self.assertEqual(self.saved("VersionCheck/Auto", elsewhere / "Kelvory/Orvanta"), "true")
+        self.assertFalse((self.place / "config").exists())
+
+    def test_nothing_that_lies_beside_the_program_is_loaded(self):
+        self.write_settings()
+        for name in LIBRARIES_TO_PLANT:
+            (self.place / name).parent.mkdir(parents=True, exist_ok=True)
+            shutil.copy(TOOLS / "planted.dll", self.place / (name + ".dll"))
+        with self.start() as program:
+            Desktop.focus("Orvanta")
+            Desktop.press(*["Tab"] * 2, "space")
+            Desktop.wait_for_window("Select target file")
+            Desktop.press("Escape")
+            wait_for(lambda: not Desktop.window("Select target file"), "the choice of a file to close")
+            self.assertEqual(program.close(), 0)
+        self.assertEqual([str(file) for file in self.place.rglob("*.loaded")], [])
+
+    def test_the_planted_library_would_say_that_it_is_loaded(self):
+        library = self.place / "planted.dll"
+        shutil.copy(TOOLS / "planted.dll", library)
+        wine("rundll32", windows_path(library) + ",nothing")
+        self.assertTrue((self.place / "planted.dll.loaded").exists())
