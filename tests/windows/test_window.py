@@ -1,8 +1,11 @@
 """The program with its windows, as a person uses it: the keyboard, the clipboard, and eyes for colours."""
 
+import http.server
 import os
 import pathlib
 import shutil
+import struct
+import threading
 import xml.etree.ElementTree
 
 from support import (MD5_OF_ABC, SETTINGS_OF_A_USED_PROGRAM, TOOLS, Desktop, Program, TestCase, unpack, wait_for, wine,
@@ -15,6 +18,23 @@ RED = (0xaa, 0x33, 0x33)
 LIBRARIES_TO_PLANT = ["dwmapi", "iphlpapi", "netapi32", "userenv", "version", "winmm", "wtsapi32", "uxtheme", "dwrite",
                       "wintab32", "d3d9", "dxgi", "propsys", "qwindows", "platforms/qwindows",
                       "styles/qwindowsvistastyle", "imageformats/qico", "plugins/platforms/qwindows", "bearer/qgenericbearer"]
+
+
+class UpdateServer(http.server.BaseHTTPRequestHandler):
+    """Stands where the machine's settings say that its proxy is, and so gets every request whole."""
+
+    requests = []
+
+    def do_GET(self):
+        self.requests.append(self.path)
+        body = b"version|1.1.6.3#changes|Fixes#log|http://log.example/#url|http://get.example/"
+        self.send_response(200)
+        self.send_header("Content-Length", str(len(body)))
+        self.end_headers()
+        self.wfile.write(body)
+
+    def log_message(self, *_):
+        pass
 
 
 class Window(TestCase):
@@ -92,6 +112,37 @@ class Window(TestCase):
             wait_for(lambda: not Desktop.window("Zieldatei auswählen"), "the choice of a file to close")
             self.assertEqual(program.close(), 0)
         self.assertEqual(self.saved("Language"), "de_DE")
+
+    def test_check_now_asks_the_server(self):
+        UpdateServer.requests.clear()
+        server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), UpdateServer)
+        threading.Thread(target=server.serve_forever, daemon=True).start()
+        self.addCleanup(server.server_close)
+        self.addCleanup(server.shutdown)
+        # Version, count, "by a proxy", the proxy and its length, no exceptions, no script.
+        proxy = f"127.0.0.1:{server.server_port}".encode()
+        setting = struct.pack("<4I", 0x46, 1, 3, len(proxy)) + proxy + struct.pack("<2I", 0, 0) + bytes(32)
+        network = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Internet Settings\Connections"
+        name = "DefaultConnectionSettings"
+        wine("reg", "add", network, "/v", name, "/t", "REG_BINARY", "/d", setting.hex(), "/f")
+        self.addCleanup(wine, "reg", "delete", network, "/v", name, "/f")
+
+        self.write_settings()
+        with self.start() as program:
+            Desktop.focus("Orvanta")
+            Desktop.press(*["Tab"] * 5, "space")
+            Desktop.focus("Settings")
+            Desktop.press(*["Tab"] * 5, "space")
+            Desktop.focus("BrimTale 1.1.6.2")
+            Desktop.press("Escape")
+            wait_for(lambda: not Desktop.window("BrimTale 1.1.6.2"), "the box to close")
+            Desktop.focus("Settings")
+            Desktop.press("Escape")
+            wait_for(lambda: not Desktop.window("Settings"), "the options to close")
+            self.assertEqual(program.close(), 0)
+        self.assertEqual(UpdateServer.requests,
+                         ["http://update.kelvory.example/latest.php?id=orvanta&version=1.1.6.2&fresh=0&lang=en_US&beta=1"
+                          "&arch=64"])
 
     def test_an_installed_program_keeps_its_settings_where_windows_says(self):
         (self.place / "portable").unlink()
