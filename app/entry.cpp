@@ -75,6 +75,10 @@ QString anchored(const QString &path)
 
 int run(const QString &commandLine)
 {
+    // Nothing here is drawn with OpenGL. Otherwise the toolkit would load it for the first window, which can take a
+    // fifth of the whole start.
+    QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets);
+
     // A folder exists too, so its path opens the window; that is meant.
     const bool isFile = !commandLine.isNull() && QFile::exists(commandLine);
     const bool isWindowRun = isFile || commandLine.isEmpty();

@@ -132,6 +132,23 @@ private Q_SLOTS:
         QCOMPARE(saved("Language"), str("de_DE"));
     }
 
+    // Loading a driver for what is never drawn would be a good part of the start.
+    void aStartLoadsNoOpenGlDriver()
+    {
+        writeSettings();
+        InspectedProgram program(QStringLiteral(ORVANTA_EXECUTABLE));
+        prepare(program);
+        program.start({});
+        waitUntilReady(program);
+        QFile maps(str("/proc/%1/maps").arg(program.process().processId()));
+        QVERIFY(maps.open(QIODevice::ReadOnly));
+        const QByteArray libraries = maps.readAll();
+        QVERIFY(libraries.contains("libqxcb.so"));
+        for (const char *name : {"glx-integration", "egl-integration", "_dri.so", "libLLVM"})
+            QVERIFY2(!libraries.contains(name), name);
+        close(program);
+    }
+
     void aPortableStartKeepsEverythingBesideTheProgram()
     {
         QVERIFY(QDir().mkpath(path("program")));
