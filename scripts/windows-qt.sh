@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # Prints the folder of a static Qt for Windows and builds it there first, once for each recipe: windows-qt.sh [--cached]
 #
-# The folder is in $ORVANTA_CACHE, "~/.cache/orvanta" by default. The recipe is this script, the options in
-# packaging/windows and the compiler. With --cached nothing is installed or built; without a ready folder that fails.
+# The folder is in $ORVANTA_CACHE, "~/.cache/orvanta" by default. The recipe is the options in packaging/windows, the
+# version of the compiler and the number below. With --cached nothing is installed or built; without a ready folder that
+# fails.
 set -euo pipefail
 tree=$(cd "$(dirname "$0")/.." && pwd)
 # shellcheck source=scripts/packages.sh
@@ -11,10 +12,13 @@ tree=$(cd "$(dirname "$0")/.." && pwd)
 options=$tree/packaging/windows/qt-options
 cache=${ORVANTA_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/orvanta}
 compiler=g++-mingw-w64-x86-64-posix
+recipe_number=1 # to be counted up with every change below that makes another toolkit
 
 folder() {
     local recipe
-    recipe=$({ cat "$tree/scripts/windows-qt.sh" "$options" "$tree/packaging/windows/notices.py"
+    recipe=$({ echo "$recipe_number"
+        sed -e 's/#.*//' -e '/^ *$/d' "$options"
+        cat "$tree/packaging/windows/notices.py"
         dpkg-query -W -f '${Version}' "$compiler" 2>/dev/null || true; } | sha256sum)
     echo "$cache/windows-qt-${recipe:0:12}"
 }
@@ -42,7 +46,8 @@ fi
 work=$cache/work
 rm -rf "$work" "$qt"
 mkdir -p "$work/state/lists/partial" "$work/cache/archives/partial" "$work/build"
-trap 'rm -rf "$work"' EXIT
+progress=""
+trap '[[ -z $progress ]] || kill "$progress" 2>/dev/null || true; rm -rf "$work"' EXIT
 
 # logged COMMAND...: keeps the output in the log and shows its end if the command fails.
 log=$cache/windows-qt.log
@@ -73,30 +78,31 @@ END
 }
 
 # What the compiler has done so far, about: it is called this often.
-calls=1120
+calls=1030
 show_progress() {
-    local done
+    local count
     while sleep "$1"; do
-        done=$(grep -c -E '^[^ ]*g\+\+ .*-c ' "$log" || true)
-        printf '%s%s%% of Qt built%s' "$2" $((done < calls ? done * 100 / calls : 100)) "$3" >&2
+        count=$(grep -c -E '^[^ ]*g\+\+ .*-c ' "$log" || true)
+        printf '%s%s%% of Qt built%s' "$2" $((count < calls ? count * 100 / calls : 100)) "$3" >&2
     done
 }
 
+# shellcheck disable=SC2046
 build() {
     cd "$work/build"
     # What is baked into the toolkit's libraries must not tell one cache from another.
     logged "$source/configure" -prefix /orvanta-qt -extprefix "$qt" -hostprefix "$qt" \
-        "QMAKE_CFLAGS+=-ffile-prefix-map=$work=." "QMAKE_CXXFLAGS+=-ffile-prefix-map=$work=." $(sed 's/#.*//' "$options")
+        "QMAKE_CFLAGS+=-ffile-prefix-map=$work=." "QMAKE_CXXFLAGS+=-ffile-prefix-map=$work=." \
+        $(sed 's/#.*//' "$options") # one word or two in each line
     if [[ -t 2 ]]; then
         show_progress 2 $'\r' '' &
     else
         show_progress 60 '' $'\n' &
     fi
-    local progress=$!
-    trap 'kill $progress 2>/dev/null; rm -rf "$work"' EXIT
+    progress=$!
     logged make -j"$(nproc)"
     logged make install
-    kill $progress
+    kill "$progress"
     [[ ! -t 2 ]] || echo >&2
 }
 

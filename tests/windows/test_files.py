@@ -91,7 +91,7 @@ class Executable(unittest.TestCase):
 
     def test_it_does_not_tell_where_it_was_built(self):
         # The toolkit's own idea of its place is the same on every machine.
-        for found in re.findall(rb"[\x20-\x7e]*(?:/home/|/root|/tmp/|/work|\.cache)[\x20-\x7e]*", self.content):
+        for found in re.findall(rb"[\x20-\x7e]*(?:/home/|/root/|/tmp/|/work/|/\.cache)[\x20-\x7e]*", self.content):
             self.fail(found)
         self.assertEqual(self.pe.FILE_HEADER.TimeDateStamp, 0)
 
