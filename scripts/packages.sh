@@ -17,7 +17,7 @@ windows_packages=(
 )
 windows_test_packages=(
     wine64 fonts-wine xvfb openbox xdotool x11-utils xclip imagemagick
-    python3-pefile clang-tidy
+    git python3-pefile clang-tidy
 )
 
 # install_missing PACKAGE...: quiet when nothing is missing.
