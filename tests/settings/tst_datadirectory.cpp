@@ -1,3 +1,5 @@
+#include "tests/support/otherprograms.h"
+
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -7,7 +9,6 @@
 #include <sys/stat.h>
 
 #include <memory>
-#include <unistd.h>
 
 /// The choice of the data directory, by a program in a folder of its own.
 class TestDataDirectory final : public QObject
@@ -28,7 +29,7 @@ class TestDataDirectory final : public QObject
 
     // Runs the program from the folder "elsewhere", with a home and an XDG_DATA_HOME of its own, and returns what it
     // prints.
-    QByteArray select(const QString &dataHome, bool asNobody = false) const
+    QByteArray select(const QString &dataHome, bool isBound = false) const
     {
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -38,12 +39,9 @@ class TestDataDirectory final : public QObject
             environment.insert(QStringLiteral("XDG_DATA_HOME"), dataHome);
         process.setProcessEnvironment(environment);
         process.setWorkingDirectory(path("elsewhere"));
-        const QStringList command{path("bin/program"), QStringLiteral("select")};
-        if (asNobody && ::geteuid() == 0)
-            process.start(QStringLiteral("setpriv"),
-                          QStringList{QStringLiteral("--reuid=65534"), QStringLiteral("--clear-groups")} + command);
-        else
-            process.start(command.at(0), command.mid(1));
+        const QStringList asIs{path("bin/program"), QStringLiteral("select")};
+        const QStringList command = isBound ? boundByPermissions(asIs) : asIs;
+        process.start(command.at(0), command.mid(1));
         return process.waitForFinished() ? process.readAllStandardOutput().trimmed() : QByteArray("did not end");
     }
 

@@ -1,4 +1,5 @@
 #include "settings/replacefile.h"
+#include "tests/support/otherprograms.h"
 
 #include <QDir>
 #include <QFile>
@@ -46,20 +47,14 @@ class TestReplaceFile final : public QObject
 {
     Q_OBJECT
 
-    QTemporaryDir m_programFolder;
-    QString m_program = m_programFolder.filePath(QStringLiteral("program"));
     std::unique_ptr<QTemporaryDir> m_folder;
 
-    // Nothing is forbidden to root, so what must fail for want of a permission is done by a process of "nobody". It
-    // runs a copy, since the build's own folder may be closed to others.
-    QByteArray replaceAsNobody(const QString &fileName, int size) const
+    // By a process of its own, which what must fail for want of a permission fails for.
+    static QByteArray replaceBound(const QString &fileName, int size)
     {
+        const QStringList command = boundByPermissions(
+            {QStringLiteral(ORVANTA_SETTINGS_PROGRAM), QStringLiteral("once"), fileName, QString::number(size)});
         QProcess process;
-        QStringList command{m_program, QStringLiteral("once"), fileName, QString::number(size)};
-        if (::geteuid() == 0)
-            command = QStringList{QStringLiteral("setpriv"), QStringLiteral("--reuid=65534"),
-                                  QStringLiteral("--clear-groups")} +
-                      command;
         process.start(command.at(0), command.mid(1));
         return process.waitForFinished() ? process.readAllStandardOutput().trimmed() : QByteArray("did not end");
     }
@@ -86,13 +81,6 @@ class TestReplaceFile final : public QObject
     QStringList files() const { return QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden | QDir::System); }
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QVERIFY(QFile::copy(QStringLiteral(ORVANTA_SETTINGS_PROGRAM), m_program));
-        for (const QString &name : {m_programFolder.path(), m_program})
-            QCOMPARE(::chmod(QFile::encodeName(name).constData(), 0755), 0);
-    }
-
     void init()
     {
         m_folder = std::make_unique<QTemporaryDir>();
@@ -155,7 +143,7 @@ private Q_SLOTS:
     void aReadOnlyFileIsLeftAlone()
     {
         write(path(), "old", 0444);
-        QCOMPARE(replaceAsNobody(path(), 3), QByteArray("not opened"));
+        QCOMPARE(replaceBound(path(), 3), QByteArray("not opened"));
         QCOMPARE(contentOf(path()), QByteArray("old"));
     }
 
@@ -165,7 +153,7 @@ private Q_SLOTS:
             setFolderMode(0777);
             write(path(), "old content", 0666);
             setFolderMode(0555);
-            QCOMPARE(replaceAsNobody(path(), size), QByteArray("replaced"));
+            QCOMPARE(replaceBound(path(), size), QByteArray("replaced"));
             QCOMPARE(contentOf(path()), QByteArray(size, 'n'));
         }
         setFolderMode(0777);
@@ -174,7 +162,7 @@ private Q_SLOTS:
     void aMissingFileInAReadOnlyFolderIsNotMade()
     {
         setFolderMode(0555);
-        QCOMPARE(replaceAsNobody(path(), 3), QByteArray("not opened"));
+        QCOMPARE(replaceBound(path(), 3), QByteArray("not opened"));
         setFolderMode(0777);
         QVERIFY(files().isEmpty());
     }
@@ -195,7 +183,7 @@ private Q_SLOTS:
         setFolderMode(0555);
         {
             const WithSizeLimit limit(4096);
-            QCOMPARE(replaceAsNobody(path(), 100000), QByteArray("not written"));
+            QCOMPARE(replaceBound(path(), 100000), QByteArray("not written"));
             QCOMPARE(contentOf(path()), old);
         }
         setFolderMode(0777);

@@ -1,5 +1,7 @@
 #include "tests/support/inspectedprogram.h"
 
+#include "tests/support/otherprograms.h"
+
 #include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QFile>
@@ -8,7 +10,6 @@
 #include <QLocalSocket>
 #include <QTest>
 
-#include <unistd.h>
 #include <utility>
 
 InspectedWidget::InspectedWidget(QJsonObject description)
@@ -65,8 +66,6 @@ InspectedProgram::InspectedProgram(const QString &executable)
     : m_executable(executable)
     , m_environment(QProcessEnvironment::systemEnvironment())
 {
-    // Another user must be able to make the socket.
-    QFile::setPermissions(m_socketFolder.path(), QFile::Permissions(0x7777));
     setVariable(QStringLiteral("QT_PLUGIN_PATH"), QStringLiteral(ORVANTA_TEST_PLUGINS));
     setVariable(QStringLiteral("QT_QPA_GENERIC_PLUGINS"), QStringLiteral("inspector"));
     setVariable(QStringLiteral("ORVANTA_INSPECTOR"), m_socketFolder.filePath(QStringLiteral("socket")));
@@ -94,13 +93,9 @@ void InspectedProgram::removeVariable(const QString &name)
 void InspectedProgram::start(const QStringList &arguments)
 {
     m_process.setProcessEnvironment(m_environment);
-    if (m_unprivileged && ::geteuid() == 0) {
-        const QStringList asNobody{QStringLiteral("--reuid=65534"), QStringLiteral("--regid=65534"),
-                                   QStringLiteral("--clear-groups"), m_executable};
-        m_process.start(QStringLiteral("setpriv"), asNobody + arguments);
-    } else {
-        m_process.start(m_executable, arguments);
-    }
+    const QStringList asIs = QStringList{m_executable} + arguments;
+    const QStringList command = m_bound ? boundByPermissions(asIs) : asIs;
+    m_process.start(command.at(0), command.mid(1));
     QVERIFY2(m_process.waitForStarted(), "the program does not start");
 }
 

@@ -42,8 +42,8 @@ public:
     void setWorkingDirectory(const QString &folder) { m_process.setWorkingDirectory(folder); }
     void setVariable(const QString &name, const QString &value);
     void removeVariable(const QString &name);
-    /// Runs the program as the user "nobody", when the test itself runs as root.
-    void setUnprivileged() { m_unprivileged = true; }
+    /// Binds the program by the permissions of files also when the test runs as root.
+    void bindByPermissions() { m_bound = true; }
 
     void start(const QStringList &arguments);
     bool isRunning() const { return m_process.state() != QProcess::NotRunning; }
@@ -71,7 +71,7 @@ private:
     QString m_executable;
     QProcessEnvironment m_environment;
     QProcess m_process;
-    bool m_unprivileged = false;
+    bool m_bound = false;
 };
 
 /// Presses and releases a key, named as xdotool names it, for the window that has the focus.

@@ -3,6 +3,8 @@
 #include <QProcess>
 #include <QTest>
 
+#include <unistd.h>
+
 namespace {
 
 QByteArray firstWordOf(const QString &shellCommand, const QStringList &arguments)
@@ -25,4 +27,12 @@ QByteArray checksumBy(const QString &program, const QString &fileName)
 QByteArray zerosChecksumBy(const QString &program, qint64 length)
 {
     return firstWordOf(QStringLiteral("head -c \"$2\" /dev/zero | \"$1\""), {program, QString::number(length)});
+}
+
+QStringList boundByPermissions(const QStringList &command)
+{
+    if (::geteuid() != 0)
+        return command;
+    return QStringList{QStringLiteral("setpriv"), QStringLiteral("--bounding-set=-dac_override,-dac_read_search")} +
+           command;
 }
