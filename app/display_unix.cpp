@@ -29,7 +29,7 @@ bool displayIsAvailable()
 
 void doWithoutDisplay()
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", "minimal"); // "offscreen" would read all of the fonts' configuration before it ends
 }
 
 void prepareForDenseScreens()

@@ -7,10 +7,10 @@
 #include <QDebug>
 #include <QDir>
 #include <QMutexLocker>
-#include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -51,10 +51,18 @@ bool canBeTag(const QString &part)
            std::all_of(part.begin(), part.end(), isNameCharacter);
 }
 
+// XML 1.0 has no way to write most control characters and U+FFFE and U+FFFF.
+bool isForbidden(QChar c)
+{
+    return (c.unicode() < 0x20 && c != QLatin1Char('\t') && c != QLatin1Char('\n') && c != QLatin1Char('\r')) ||
+           c.unicode() > 0xfffd;
+}
+
 QString withoutForbiddenCharacters(const QString &text)
 {
-    static const QRegularExpression forbidden(QStringLiteral("[^\\t\\n\\r\\x{20}-\\x{fffd}\\x{10000}-\\x{10ffff}]"));
-    return QString(text).remove(forbidden);
+    QString allowed;
+    std::remove_copy_if(text.begin(), text.end(), std::back_inserter(allowed), isForbidden);
+    return allowed;
 }
 
 } // namespace
