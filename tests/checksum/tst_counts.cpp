@@ -27,7 +27,7 @@ qint64 readsSoFar()
     if (!file.open(QIODevice::ReadOnly))
         return -1;
     const QByteArray account = file.readAll();
-    const int start = account.indexOf("syscr: ") + 7;
+    const auto start = account.indexOf("syscr: ") + 7;
     return account.mid(start, account.indexOf('\n', start) - start).toLongLong();
 }
 
