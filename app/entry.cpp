@@ -6,6 +6,7 @@
 #include "app/lastresort.h"
 #include "app/notice.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QVariant>
@@ -70,7 +71,7 @@ int openWindow(const QString &file)
 // The path with nothing but its relativity taken away: the run changes its working directory before it opens the file.
 QString anchored(const QString &path)
 {
-    return QFileInfo(path).isAbsolute() ? path : QFileInfo(path).absoluteFilePath();
+    return QFileInfo(path).isAbsolute() ? path : QDir::toNativeSeparators(QFileInfo(path).absoluteFilePath());
 }
 
 int run(const QString &commandLine)

@@ -4,7 +4,7 @@ import os
 import pathlib
 
 from support import (MD5_OF_ABC, SETTINGS_OF_A_USED_PROGRAM, Desktop, Program, TestCase, only, portable_files, registry,
-                     run_command_lines, wait_for, wine)
+                     run_command_lines, wait_for, windows_path, wine)
 
 DRIVE = pathlib.Path(os.environ["WINEPREFIX"]) / "drive_c"
 UNINSTALL = r"\Software\Microsoft\Windows\CurrentVersion\Uninstall\Orvanta"
@@ -113,11 +113,11 @@ class Installer(TestCase):
         file = self.write("two words.bin", "abc")
         command = registry("HKCU" + VERB + "\\command", "")
         program = unix_path(command.split("\" ")[0])
-        text = command.split("\" ")[1].replace("%1", "Z:" + str(file).replace("/", "\\"))
+        text = command.split("\" ")[1].replace("%1", windows_path(file))
         with Program(program, text, cwd=self.place) as run:
             Desktop.focus("Orvanta")
             Desktop.press("Tab")
-            self.assertEqual(Desktop.copied_text().replace("\\", "/"), "Z:" + str(file))
+            self.assertEqual(Desktop.copied_text(), windows_path(file))
             self.assertEqual(run.close(), 0)
         self.uninstall("HKCU")
         wait_for(lambda: not program.parent.exists(), "the folder to go")
