@@ -1,3 +1,5 @@
+#include "bench/pairs.h"
+
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -6,7 +8,6 @@
 
 #include <xcb/xcb.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -62,12 +63,6 @@ double timeToWindow(const QString &program, const QProcessEnvironment &environme
     process.kill();
     process.waitForFinished();
     return time;
-}
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values.at(values.size() / 2);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds, and runs the tests: scripts/test.sh [release|qt6|asan|fuzz|tree|windows]...
-# By default all; the Windows edition where the toolkit for it has been built, since that alone takes a quarter of an hour.
+# By default all; the Windows edition only where the toolkit for it has been built, which alone takes a quarter of an
+# hour.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh

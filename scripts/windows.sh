@@ -12,7 +12,8 @@ folder=${1:-build/packages}
 mkdir -p "$folder"
 folder=$(cd "$folder" && pwd)
 build=$PWD/build/windows
-cmake --preset windows -DORVANTA_WARNINGS_AS_ERRORS=ON >/dev/null
+# Afresh, since a cache of another toolkit would go on using that one.
+cmake --fresh --preset windows -DORVANTA_WARNINGS_AS_ERRORS=ON >/dev/null
 cmake --build "$build"
 
 # cached NAME: the value of one of the build's variables.

@@ -44,14 +44,12 @@ def portable_files():
         return {name.split("/", 1)[1]: archive.read(name) for name in names}
 
 
-def unpack(folder, marker=True):
-    """The portable edition in `folder`; without its marker it is an installed one."""
+def unpack(folder):
+    """The portable edition in `folder`."""
     for name, content in portable_files().items():
         file = folder / name
         file.parent.mkdir(parents=True, exist_ok=True)
         file.write_bytes(content)
-    if not marker:
-        (folder / "portable").unlink()
 
 
 def filled_in(text):

@@ -145,7 +145,7 @@ class Window(TestCase):
                           "&arch=64"])
 
     def test_an_installed_program_keeps_its_settings_where_windows_says(self):
-        (self.place / "portable").unlink()
+        (self.place / "portable").unlink()  # without the marker it is an installed one
         folders = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Explorer\User Shell Folders"
         before = wine("reg", "query", folders, "/v", "AppData")[1]
         elsewhere = pathlib.Path(os.environ["WINEPREFIX"]) / "drive_c" / "Größe 文件" / "Roaming"
