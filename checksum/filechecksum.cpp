@@ -1,5 +1,6 @@
 #include "checksum/filechecksum.h"
 
+#include "checksum/contentfile.h"
 #include "checksum/md5digest.h"
 #include "checksum/sha1.h"
 
@@ -61,8 +62,7 @@ QString sha1Text(QFile &file)
 QString fileChecksum(ChecksumAlgorithm algorithm, const QString &fileName)
 {
     QFile file(fileName);
-    file.open(QIODevice::ReadOnly);
-    if (!file.isOpen() || !file.isReadable())
+    if (!openContent(file) || !file.isReadable())
         throw QStringLiteral("Could not open file..");
 
     QString text;

@@ -3,6 +3,8 @@
 
 #include <QCryptographicHash>
 #include <QFile>
+#include <QLocalServer>
+#include <QProcess>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
@@ -35,6 +37,15 @@ QString thrownText(ChecksumAlgorithm algorithm, const QString &fileName)
     return QStringLiteral("nothing was thrown");
 }
 
+qint64 bytesReadByThisProcess()
+{
+    QFile file(QStringLiteral("/proc/self/io"));
+    if (!file.open(QIODevice::ReadOnly))
+        QTest::qFail("cannot see what this process reads", __FILE__, __LINE__);
+    const QByteArray firstLine = file.readLine(); // "rchar: NUMBER"
+    return firstLine.mid(firstLine.indexOf(' ')).trimmed().toLongLong();
+}
+
 } // namespace
 
 class TestFileChecksum final : public QObject
@@ -42,6 +53,7 @@ class TestFileChecksum final : public QObject
     Q_OBJECT
 
     QTemporaryDir m_folder;
+    QLocalServer m_server;
 
     QString write(const QString &name, const QByteArray &content)
     {
@@ -118,12 +130,24 @@ private Q_SLOTS:
 
     void anUnknownAlgorithmReadsNothing()
     {
-        // Reading this pipe would wait for ever: it is open for writing here, and nothing is ever written.
-        const QByteArray pipe = m_folder.filePath(QStringLiteral("pipe")).toLocal8Bit();
-        QCOMPARE(::mkfifo(pipe.constData(), 0600), 0);
-        QFile holder(QString::fromLocal8Bit(pipe));
-        QVERIFY(holder.open(QIODevice::ReadWrite | QIODevice::Unbuffered));
-        QVERIFY(fileChecksum(2, QString::fromLocal8Bit(pipe)).isEmpty());
+        const QString file = write(QStringLiteral("long"), QByteArray(1 << 20, 'x'));
+        const qint64 before = bytesReadByThisProcess();
+        QVERIFY(fileChecksum(2, file).isEmpty());
+        QVERIFY(bytesReadByThisProcess() - before < (1 << 19));
+    }
+
+    void aBlockDeviceIsReadToItsEnd()
+    {
+        const QByteArray content(1 << 20, 'b');
+        const QString file = write(QStringLiteral("image"), content);
+        QProcess losetup;
+        losetup.start(QStringLiteral("losetup"), {QStringLiteral("--find"), QStringLiteral("--show"), file});
+        if (!losetup.waitForFinished() || losetup.exitCode() != 0)
+            QSKIP("This user or this machine can make no block device.");
+        const QString device = QString::fromLocal8Bit(losetup.readAllStandardOutput()).trimmed();
+        const QString computed = fileChecksum(md5Algorithm, device);
+        QCOMPARE(QProcess::execute(QStringLiteral("losetup"), {QStringLiteral("--detach"), device}), 0);
+        QCOMPARE(computed, expectedMd5(content));
     }
 
     void whatCannotBeOpenedThrowsItsTextForEveryAlgorithm_data()
@@ -132,6 +156,16 @@ private Q_SLOTS:
         QTest::newRow("missing file") << m_folder.filePath(QStringLiteral("no such file"));
         QTest::newRow("folder") << m_folder.path();
         QTest::newRow("empty name") << QString();
+        QTest::newRow("endless device") << QStringLiteral("/dev/zero");
+        QTest::newRow("terminal") << QStringLiteral("/dev/ptmx");
+        const QString pipe = m_folder.filePath(QStringLiteral("pipe"));
+        ::mkfifo(QFile::encodeName(pipe).constData(), 0600);
+        QTest::newRow("pipe without a writer") << pipe;
+        const QString link = m_folder.filePath(QStringLiteral("link to a pipe"));
+        QFile::link(pipe, link);
+        QTest::newRow("link to a pipe") << link;
+        m_server.listen(m_folder.filePath(QStringLiteral("socket")));
+        QTest::newRow("socket") << m_server.fullServerName();
         QTest::newRow("name in quotes") << QStringLiteral("\"%1\"").arg(write(QStringLiteral("quoted"), "abc"));
     }
 
