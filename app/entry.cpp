@@ -5,6 +5,7 @@
 #include "app/display.h"
 #include "app/lastresort.h"
 #include "app/notice.h"
+#include "app/pluginfolders.h"
 
 #include <QDir>
 #include <QFile>
@@ -79,6 +80,7 @@ int run(const QString &commandLine)
     // Nothing here is drawn with OpenGL. Otherwise the toolkit would load it for the first window, which can take a
     // fifth of the whole start.
     QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets);
+    loadNoPluginsFromProgramFolder();
 
     // A folder exists too, so its path opens the window; that is meant.
     const bool isFile = !commandLine.isNull() && QFile::exists(commandLine);
