@@ -2,6 +2,7 @@
 
 #include "app/notice.h"
 #include "checksum/filechecksum.h"
+#include "update/foreigntext.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -15,6 +16,9 @@ namespace {
 constexpr qint32 valid = 0;
 constexpr qint32 invalid = 1;
 constexpr qint32 error = -1;
+
+// How much of what was typed is shown. A box grows with its text, out of every screen.
+constexpr int longestInBox = 1000;
 
 const QLatin1String title("Command Line Interface");
 
@@ -59,8 +63,8 @@ std::optional<ChecksumAlgorithm> algorithmNamed(const QString &name)
 
 qint32 showFileNotFound(const QString &file)
 {
-    const QString text = QStringLiteral("File '%1' not found.").arg(file);
-    show({QMessageBox::Warning, title, text, Qt::PlainText, text});
+    const QString text = QStringLiteral("File '%1' not found.");
+    show({QMessageBox::Warning, title, text.arg(shortened(file, longestInBox)), Qt::PlainText, text.arg(file)});
     return error;
 }
 
@@ -106,7 +110,8 @@ qint32 showUsageError(const QString &commandLine)
     const QString usage = usageText;
     // Turned into plain text before the command line goes in, so that nothing typed is taken for markup.
     const QString plainUsage = QTextDocumentFragment::fromHtml(usage).toPlainText();
-    show({QMessageBox::Information, title, usage.arg(commandLine), Qt::AutoText, plainUsage.arg(commandLine)});
+    const QString boxText = harmlessHtml(usage.arg(shortened(commandLine, longestInBox)));
+    show({QMessageBox::Information, title, boxText, Qt::AutoText, plainUsage.arg(commandLine)});
     static_cast<void>(QCoreApplication::closingDown()); // the answer plays no part; the query is kept
     return error;
 }

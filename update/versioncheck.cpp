@@ -2,6 +2,7 @@
 
 #include "configuration.h"
 #include "settings/appsettings.h"
+#include "update/foreigntext.h"
 #include "update/replylimit.h"
 #include "update/versionquery.h"
 #include "update/versionreply.h"
@@ -126,13 +127,16 @@ void VersionCheck::showNoUpdates(QMessageBox &box)
 
 void VersionCheck::showNewVersion(QMessageBox &box, const VersionReply &newest)
 {
-    box.setText(tr("New version available:") + QLatin1String(" <b>Brimtale ") + newest.version + QLatin1String("</b>"));
+    box.setText(harmlessHtml(tr("New version available:") + QLatin1String(" <b>Brimtale ") +
+                             shortened(newest.version, 100) + QLatin1String("</b>")));
     box.setWindowFlag(Qt::WindowStaysOnTopHint);
     box.setIcon(QMessageBox::Question);
-    box.setInformativeText(QLatin1String("<b style=\"color:#444\">") + newest.changes + QLatin1String("</b><br/>") +
-                           QLatin1String("<a href=") + newest.log + QLatin1Char('>') + newest.log +
-                           QLatin1String("</a><br/><br/>") +
-                           tr("Do you want to download the latest version from our website?"));
+    // As a whole, since a tag may begin in one value and end in another.
+    const QString log = shortened(newest.log, 1000);
+    box.setInformativeText(harmlessHtml(QLatin1String("<b style=\"color:#444\">") + shortened(newest.changes, 4000) +
+                                        QLatin1String("</b><br/>") + QLatin1String("<a href=") + log +
+                                        QLatin1Char('>') + log + QLatin1String("</a><br/><br/>") +
+                                        tr("Do you want to download the latest version from our website?")));
     box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
     box.button(QMessageBox::Yes)->setText(tr("Yes"));
     box.button(QMessageBox::No)->setText(tr("No"));

@@ -18,6 +18,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include <sys/stat.h>
+
 #include <memory>
 
 namespace {
@@ -107,6 +109,7 @@ struct SeenBox
     Qt::WindowModality modality;
     Qt::WindowFlags flags;
     QWidget *parent;
+    QSize size;
 };
 
 } // namespace
@@ -142,7 +145,7 @@ class TestVersionCheck final : public QObject
             buttons << button->text();
         m_boxes.append({box->windowTitle(), box->text(), box->informativeText(), buttons,
                         box->defaultButton() ? box->defaultButton()->text() : QString(), box->icon(),
-                        box->windowModality(), box->windowFlags(), box->parentWidget()});
+                        box->windowModality(), box->windowFlags(), box->parentWidget(), box->size()});
         QAbstractButton *answer = m_answer != QMessageBox::NoButton ? box->button(m_answer) : all.first();
         answer->click();
     }
@@ -329,6 +332,38 @@ private Q_SLOTS:
         run(true);
         QCOMPARE(labels, 1);
         QCOMPARE(m_opened, QList<QUrl>{QUrl(str("https://log.example/"))});
+    }
+
+    void theServersHtmlLoadsNothingAndIsLaidOutAtOnce_data()
+    {
+        QTest::addColumn<QString>("body");
+        const QString pipe = m_folder.filePath(str("pipe")); // whoever opens it waits for ever
+        ::mkfifo(QFile::encodeName(pipe).constData(), 0600);
+        QTest::newRow("a picture") << str("version|2.0.0.0#changes|<img src='%1'>").arg(pipe);
+        QTest::newRow("a picture in the version")
+            << str("version|2.0.0.<img src='%1'>").arg(pipe); // there is no dot in its path
+        QTest::newRow("a picture in the link") << str("version|2.0.0.0#log|a><img src='%1'>").arg(pipe);
+        QTest::newRow("a picture across two values")
+            << str("version|2.0.0.0#changes|<img style='#log|%1' src='%1'>").arg(pipe);
+        QTest::newRow("a background") << str("version|2.0.0.0#changes|<b style='background-image:url(%1)'>").arg(pipe);
+        QTest::newRow("a style sheet") << str("version|2.0.0.0#changes|<link rel='stylesheet' href='%1'>").arg(pipe);
+        QTest::newRow("tables in tables") << str("version|2.0.0.0#changes|") + str("<table><tr><td>").repeated(4000);
+        QTest::newRow("a very long text") << str("version|2.0.0.0#changes|") + str("<br>x ").repeated(10000);
+        QTest::newRow("a very long version") << str("version|2.0.0.") + str("0 ").repeated(30000);
+        QTest::newRow("a very long link") << str("version|2.0.0.0#log|") + str("a ").repeated(30000);
+    }
+
+    void theServersHtmlLoadsNothingAndIsLaidOutAtOnce()
+    {
+        QFETCH(QString, body);
+        WebServer server;
+        askAt(server.port());
+        server.setBody(body.toUtf8());
+        m_answer = QMessageBox::No;
+        run(true);
+        QCOMPARE(m_boxes.size(), 1);
+        QVERIFY(m_boxes.at(0).size.height() < 5000);
+        QCOMPARE(timeStamp(), today());
     }
 
     void noNewerVersionIsShownByAManualCheckOnly_data()
