@@ -1,15 +1,13 @@
 #include "app/commandline.h"
 
 #include "app/notice.h"
+#include "app/verification.h"
 #include "checksum/filechecksum.h"
 #include "update/foreigntext.h"
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QStringList>
 #include <QTextDocumentFragment>
-
-#include <optional>
 
 namespace {
 
@@ -28,39 +26,6 @@ const QLatin1String usageText("<p>Error in arguments</b>: '%1'</p>"
                               "<em>start /wait orv.exe /a ALGORITHM /c CHECKSUM /f FILE</em><br/>"
                               "Error Level: Valid=0 | Invalid=1 | Error=-1");
 
-// The value of a switch such as "a md5 ", or nothing when the piece belongs to another switch. Either case will do for
-// the letter.
-std::optional<QString> valueOf(const QString &piece, QChar letter)
-{
-    if (piece.isEmpty() || piece.at(0).toLower() != letter)
-        return std::nullopt;
-    return piece.mid(1);
-}
-
-// Only the character " " counts as a blank; tabs and the like stay.
-QString withoutBlanks(QString text)
-{
-    return text.remove(QLatin1Char(' '));
-}
-
-QString withoutLeadingBlanks(const QString &text)
-{
-    int first = 0;
-    while (first < text.size() && text.at(first) == QLatin1Char(' '))
-        ++first;
-    return text.mid(first);
-}
-
-// In lower case only; "MD5" is a usage error.
-std::optional<ChecksumAlgorithm> algorithmNamed(const QString &name)
-{
-    if (name == QLatin1String("md5"))
-        return md5Algorithm;
-    if (name == QLatin1String("sha1"))
-        return sha1Algorithm;
-    return std::nullopt;
-}
-
 qint32 showFileNotFound(const QString &file)
 {
     const QString text = QStringLiteral("File '%1' not found.");
@@ -72,37 +37,23 @@ qint32 showFileNotFound(const QString &file)
 
 qint32 runCommandLine(const QString &text)
 {
-    const QStringList pieces = text.split(QLatin1Char('/'), Qt::SkipEmptyParts);
-    if (pieces.size() < 2)
-        return showUsageError(text);
-
-    const auto algorithmValue = valueOf(pieces.at(0), QLatin1Char('a'));
-    const auto algorithm = algorithmValue ? algorithmNamed(withoutBlanks(*algorithmValue)) : std::nullopt;
-    if (!algorithm)
-        return showUsageError(text);
-
-    const auto checksumValue = valueOf(pieces.at(1), QLatin1Char('c'));
-    if (!checksumValue)
-        return showUsageError(text);
-
-    // With two pieces only, the file piece is an empty text, which is no file switch.
-    const auto fileValue = valueOf(pieces.value(2), QLatin1Char('f'));
-    if (!fileValue)
+    const auto verification = parseVerification(text);
+    if (!verification)
         return showUsageError(text);
 
     // Quotes are taken off for the question whether the file exists, and only for it: the checksum is computed of the
     // name as it stands, so a quoted name is an error without a box. This is meant.
-    const QString file = withoutLeadingBlanks(*fileValue);
+    const QString &file = verification->file;
     if (!QFile::exists(QString(file).remove(QLatin1Char('"'))))
         return showFileNotFound(file);
 
     QString computed;
     try {
-        computed = fileChecksum(*algorithm, file);
+        computed = fileChecksum(verification->algorithm, file);
     } catch (...) {
         return error;
     }
-    return computed == withoutBlanks(*checksumValue) ? valid : invalid;
+    return computed == verification->expected ? valid : invalid;
 }
 
 qint32 showUsageError(const QString &commandLine)
