@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QIcon>
 #include <QLocale>
 #include <QTreeWidget>
@@ -27,6 +28,21 @@ QString englishCountryName(const QLocale &locale)
 #else
     return QLocale::countryToString(locale.country());
 #endif
+}
+
+// Whether a flag can be handed to the toolkit, which waits for a pipe and unpacks whatever a picture holds.
+bool isSmallFile(const QString &fileName)
+{
+    constexpr qint64 maximumSize = 1 << 16;
+    const QFileInfo info(fileName);
+    return !info.exists() || (info.isFile() && info.size() <= maximumSize);
+}
+
+QIcon flagIcon(const QString &fileName)
+{
+    QString twiceAsFine = fileName;
+    twiceAsFine.insert(fileName.lastIndexOf(QLatin1Char('.')), QLatin1String("@2x"));
+    return isSmallFile(fileName) && isSmallFile(twiceAsFine) ? QIcon(fileName) : QIcon();
 }
 
 } // namespace
@@ -108,7 +124,7 @@ void LanguageManager::fillLanguageTree(QTreeWidget *tree) const
     int longest = 0;
     for (const LanguageInfo &language : languages) {
         auto *item = new QTreeWidgetItem; // the tree owns it
-        item->setIcon(0, QIcon(language.flag));
+        item->setIcon(0, flagIcon(language.flag));
         item->setText(0, language.code);
         item->setText(1, language.language);
         item->setText(2, language.country);

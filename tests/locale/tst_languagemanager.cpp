@@ -13,6 +13,8 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include <sys/stat.h>
+
 namespace {
 
 QString str(const char *text)
@@ -336,6 +338,26 @@ private Q_SLOTS:
         fill(tree);
         QVERIFY(!tree.topLevelItem(1)->icon(0).pixmap(20, 14).isNull());
         QVERIFY(tree.topLevelItem(2)->icon(0).pixmap(20, 14).isNull());
+    }
+
+    void whatCannotBeAFlagIsNotOpened()
+    {
+        for (const char *code : {"aa", "bb", "cc", "dd"})
+            addCatalogue(str("x-%1.qm").arg(str(code)));
+        QPixmap flag(20, 14);
+        flag.fill(Qt::red);
+        QVERIFY(flag.save(m_locale.filePath(str("aa.png"))));
+        QCOMPARE(::mkfifo(QFile::encodeName(m_locale.filePath(str("bb.png"))).constData(), 0600), 0);
+        QVERIFY(flag.save(m_locale.filePath(str("cc.png"))));
+        QCOMPARE(::mkfifo(QFile::encodeName(m_locale.filePath(str("cc@2x.png"))).constData(), 0600), 0);
+        QVERIFY(flag.save(m_locale.filePath(str("dd.png"))));
+        QVERIFY(QFile::resize(m_locale.filePath(str("dd.png")), 100000));
+        LanguageManager::instance().loadLanguages();
+        QTreeWidget tree;
+        fill(tree);
+        QVERIFY(!tree.topLevelItem(1)->icon(0).pixmap(20, 14).isNull());
+        for (const int item : {2, 3, 4})
+            QVERIFY(tree.topLevelItem(item)->icon(0).isNull());
     }
 
     void destroyingTheManagerRemovesTheTranslation()
