@@ -63,6 +63,7 @@ private:
     void makeAccessible();
     void restoreSettings();
     void restoreWindowGeometry();
+    void restoreLayout();
     void storeSettings();
     void storeOptions();
 

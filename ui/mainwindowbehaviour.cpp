@@ -4,6 +4,7 @@
 #include "ui/dialogoptions.h"
 #include "ui/globalposition.h"
 #include "ui/mainwindow.h"
+#include "ui/windowlayout.h"
 #include "ui/windowmenu.h"
 #include "ui/windowplace.h"
 #include "update/versioncheck.h"
@@ -100,7 +101,7 @@ void MainWindow::restoreSettings()
     if (storedBool(WindowRestoreGeometry, false))
         restoreWindowGeometry();
     else if (storedBool(WindowRestoreLayout, false))
-        restoreState(storedBytes(WindowState), 0);
+        restoreLayout();
     storeOptions();
 }
 
@@ -112,6 +113,18 @@ void MainWindow::restoreWindowGeometry()
     const QPoint place = reachablePosition(pos(), QGuiApplication::primaryScreen()->virtualSize());
     if (place != pos())
         move(place);
+}
+
+void MainWindow::restoreLayout()
+{
+    const QByteArray layout = storedBytes(WindowState);
+    if (isSoundLayout(layout, ui->toolBar->objectName()))
+        restoreState(layout, 0);
+    if (!ui->toolBar->isFloating())
+        return;
+    // Beside the window it may have got any size and place.
+    ui->toolBar->adjustSize();
+    ui->toolBar->move(reachablePosition(ui->toolBar->pos(), QGuiApplication::primaryScreen()->virtualSize()));
 }
 
 void MainWindow::storeSettings()

@@ -335,6 +335,25 @@ private Q_SLOTS:
         QCOMPARE(m_window->toolBarArea(toolBar), withGeometry ? Qt::TopToolBarArea : Qt::BottomToolBarArea);
     }
 
+    void aDamagedLayoutIsIgnored()
+    {
+        setSetting(WindowRestoreLayout, true);
+        // The third would have the toolkit count countless tool bars, the last one hides the one there is.
+        for (const char *text : {"", "zz",
+                                 "000000ff00000000fd000000000000000000000000000000040000000400000008000000"
+                                 "08fc000000010000000029000000010000000e0074026f00610000",
+                                 "000000ff00000000fd0000000000000000000000000000000400000004000000080000"
+                                 "0008fc0000000100000002000000010000000e0074006f006f006c00420061007200"
+                                 "00000000ffffffff0000000000000000"}) {
+            setSetting(WindowState, str(text));
+            makeWindow();
+            auto *toolBar = m_window->findChild<QToolBar *>(str("toolBar"));
+            QCOMPARE(m_window->toolBarArea(toolBar), Qt::TopToolBarArea);
+            QVERIFY(!toolBar->isHidden());
+            m_window.reset();
+        }
+    }
+
     void theOpacityIsStoredWithTwoDecimals_data()
     {
         QTest::addColumn<double>("opacity");
