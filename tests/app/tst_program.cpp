@@ -1,92 +1,15 @@
 #include "configuration.h"
-#include "tests/support/inspectedprogram.h"
+#include "tests/app/programtest.h"
 #include "tests/support/webserver.h"
 
 #include <QDate>
-#include <QDir>
-#include <QDomDocument>
-#include <QFile>
-#include <QTemporaryDir>
-#include <QTest>
-
-#include <memory>
-
-namespace {
-
-const QString windowTitle = QStringLiteral("Orvanta");
-const QString md5OfAbc = QStringLiteral("900150983cd24fb0d6963f7d28e17f72");
-
-QString str(const char *text)
-{
-    return QString::fromUtf8(text);
-}
-
-} // namespace
 
 /// The built executable with its windows, used as a person does: with keys, clicks and a drag on a real display.
-class TestProgram final : public QObject
+class TestProgram final : public ProgramTest
 {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_folder;
-
-    QString path(const char *name) const { return m_folder->filePath(str(name)); }
-
-    QString write(const char *name, const QByteArray &content) const
-    {
-        QDir().mkpath(QFileInfo(path(name)).path());
-        QFile file(path(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-            QTest::qFail("cannot write a test file", __FILE__, __LINE__);
-        return file.fileName();
-    }
-
-    // The program from the build's own folder, where its catalogues are, with a data folder of its own.
-    void prepare(InspectedProgram &program) const
-    {
-        program.setVariable(str("XDG_DATA_HOME"), path("data"));
-        program.setVariable(str("LC_ALL"), str("en_US.UTF-8"));
-        program.setWorkingDirectory(m_folder->path());
-    }
-
-    // Settings of a program that has been started before and shows no splash.
-    void writeSettings(const QByteArray &more = {}) const
-    {
-        write("data/Kelvory/Orvanta/config/global.xml", "<Settings><IsFirstStart>false</IsFirstStart>"
-                                                        "<DisableSplashScreen>true</DisableSplashScreen>" +
-                                                            more + "</Settings>");
-    }
-
-    // The text of a saved setting, or "none".
-    QString saved(const char *name, const char *file = "data/Kelvory/Orvanta/config/global.xml") const
-    {
-        QFile settings(path(file));
-        QDomDocument document;
-        if (!settings.open(QIODevice::ReadOnly) || !document.setContent(&settings))
-            return str("no settings");
-        QDomElement element = document.documentElement();
-        const QStringList parts = str(name).split(QLatin1Char('/'));
-        for (const QString &part : parts)
-            element = element.firstChildElement(part);
-        return element.isNull() ? str("none") : element.text();
-    }
-
-    static void waitUntilReady(InspectedProgram &program)
-    {
-        // The window is transparent until everything else is done.
-        QVERIFY(!program.waitForText(windowTitle, str("MainWindow"), "windowOpacity", str("1")).isNull());
-        QVERIFY(!program.waitForText(windowTitle, str("MainWindow"), "isActiveWindow", str("true")).isNull());
-    }
-
-    static void close(InspectedProgram &program)
-    {
-        pressKey(str("alt+F4"));
-        QCOMPARE(program.exitCode(), 0);
-    }
-
 private Q_SLOTS:
-    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
-
     void theFirstStartGreetsAndRemembersThat()
     {
         InspectedProgram program(QStringLiteral(ORVANTA_EXECUTABLE));
@@ -106,17 +29,17 @@ private Q_SLOTS:
         QVERIFY(lines.contains("languages loaded\n"));
         QVERIFY(lines.contains("*success*initialization complete\n"));
 
-        QCOMPARE(saved("IsFirstStart"), str("false"));
-        QCOMPARE(saved("Language"), str("en_UK"));
-        QCOMPARE(saved("VersionCheck/Auto"), str("true"));
-        QCOMPARE(saved("VersionCheck/TimeStamp"), str("none"));
-        QCOMPARE(saved("DisableSplashScreen"), str("false"));
-        QCOMPARE(saved("Window/StayOnTop"), str("false"));
-        QCOMPARE(saved("Window/Opacity"), str("1"));
-        QCOMPARE(saved("Window/RestoreLayout"), str("false"));
-        QCOMPARE(saved("Window/RestoreGeometry"), str("false"));
-        QCOMPARE(saved("Window/WndGeometry"), str("none"));
-        QVERIFY(!QDir(path("config")).exists());
+        QCOMPARE(saved(str("IsFirstStart")), str("false"));
+        QCOMPARE(saved(str("Language")), str("en_UK"));
+        QCOMPARE(saved(str("VersionCheck/Auto")), str("true"));
+        QCOMPARE(saved(str("VersionCheck/TimeStamp")), str("none"));
+        QCOMPARE(saved(str("DisableSplashScreen")), str("false"));
+        QCOMPARE(saved(str("Window/StayOnTop")), str("false"));
+        QCOMPARE(saved(str("Window/Opacity")), str("1"));
+        QCOMPARE(saved(str("Window/RestoreLayout")), str("false"));
+        QCOMPARE(saved(str("Window/RestoreGeometry")), str("false"));
+        QCOMPARE(saved(str("Window/WndGeometry")), str("none"));
+        QVERIFY(!QDir(path(str("config"))).exists());
     }
 
     void theSecondStartOpensTheWindowAtOnce()
@@ -129,7 +52,7 @@ private Q_SLOTS:
         QCOMPARE(program.windows().size(), 1);
         QVERIFY(!program.waitForText(windowTitle, str("label_2"), "text", str("Pfad:")).isNull());
         close(program);
-        QCOMPARE(saved("Language"), str("de_DE"));
+        QCOMPARE(saved(str("Language")), str("de_DE"));
     }
 
     // Loading a driver for what is never drawn would be a good part of the start.
@@ -151,19 +74,18 @@ private Q_SLOTS:
 
     void aPortableStartKeepsEverythingBesideTheProgram()
     {
-        QVERIFY(QDir().mkpath(path("program")));
-        QVERIFY(QFile::copy(QStringLiteral(ORVANTA_EXECUTABLE), path("program/orv")));
-        write("program/portable.txt", {});
-        write("program/config/global.xml", "<Settings><IsFirstStart>false</IsFirstStart>"
-                                           "<DisableSplashScreen>true</DisableSplashScreen></Settings>");
-        InspectedProgram program(path("program/orv"));
+        QVERIFY(QDir().mkpath(path(str("program"))));
+        QVERIFY(QFile::copy(QStringLiteral(ORVANTA_EXECUTABLE), path(str("program/orv"))));
+        write(str("program/portable.txt"), {});
+        write(str("program/config/global.xml"), settings());
+        InspectedProgram program(path(str("program/orv")));
         prepare(program);
         program.start({});
         waitUntilReady(program);
         close(program);
-        QCOMPARE(saved("VersionCheck/Auto", "program/config/global.xml"), str("true"));
-        QVERIFY(!QFileInfo::exists(path("data")));
-        QVERIFY(!QFileInfo::exists(path("program/writable")));
+        QCOMPARE(saved(str("VersionCheck/Auto"), str("program/config/global.xml")), str("true"));
+        QVERIFY(!QFileInfo::exists(path(str("data"))));
+        QVERIFY(!QFileInfo::exists(path(str("program/writable"))));
     }
 
     void aFileOnTheCommandLineIsAdded_data()
@@ -179,7 +101,7 @@ private Q_SLOTS:
         QFETCH(QString, argument);
         QFETCH(bool, isAbsolute);
         writeSettings();
-        const QString file = write("two words.bin", "abc");
+        const QString file = write(str("two words.bin"), "abc");
         InspectedProgram program(QStringLiteral(ORVANTA_EXECUTABLE));
         prepare(program);
         program.start({isAbsolute ? file : argument});
@@ -192,7 +114,7 @@ private Q_SLOTS:
     void aPastedChecksumIsValidOrNot()
     {
         writeSettings();
-        const QString file = write("sample.bin", "abc");
+        const QString file = write(str("sample.bin"), "abc");
         InspectedProgram program(QStringLiteral(ORVANTA_EXECUTABLE));
         prepare(program);
         program.start({file});
@@ -208,14 +130,14 @@ private Q_SLOTS:
     void aFileIsDroppedFromAnotherProgram()
     {
         writeSettings();
-        const QString file = write("dropped.bin", "abc");
+        const QString file = write(str("dropped.bin"), "abc");
         InspectedProgram program(QStringLiteral(ORVANTA_EXECUTABLE));
         prepare(program);
         program.start({});
         waitUntilReady(program);
         InspectedProgram source(QStringLiteral(ORVANTA_DRAG_SOURCE));
         prepare(source);
-        source.process().setWorkingDirectory(m_folder->path());
+        source.process().setWorkingDirectory(path(QString()));
         source.start({file});
         const InspectedWidget from = source.waitForWindow(str("drag source"));
         QVERIFY(!from.isNull());
@@ -248,7 +170,7 @@ private Q_SLOTS:
         pressKey(str("Escape"));
         QTRY_COMPARE_WITH_TIMEOUT(program.windows().size(), 1, 10000);
         close(program);
-        QCOMPARE(saved("Language"), str("zh_CN"));
+        QCOMPARE(saved(str("Language")), str("zh_CN"));
     }
 
     void checkNowAsksTheServer()
@@ -278,7 +200,7 @@ private Q_SLOTS:
                  QList<QByteArray>{
                      QByteArray("GET http://") + Configuration::updateHost +
                      "/latest.php?id=orvanta&version=1.1.6.2&fresh=0&lang=en_US&beta=1&arch=64 HTTP/1.1|-|200"});
-        QCOMPARE(saved("VersionCheck/TimeStamp"), QDate::currentDate().toString(str("dd.MM.yyyy")));
+        QCOMPARE(saved(str("VersionCheck/TimeStamp")), QDate::currentDate().toString(str("dd.MM.yyyy")));
     }
 };
 

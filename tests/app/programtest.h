@@ -1,0 +1,87 @@
+#pragma once
+
+#include "tests/support/inspectedprogram.h"
+
+#include <QDir>
+#include <QDomDocument>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+/// What the tests that use the built executable as a person does have in common: a folder of their own for each test,
+/// with the program's data in it, and its window.
+class ProgramTest : public QObject
+{
+    Q_OBJECT
+
+protected:
+    static QString str(const char *text) { return QString::fromUtf8(text); }
+
+    inline static const QString windowTitle = QStringLiteral("Orvanta");
+    inline static const QString md5OfAbc = QStringLiteral("900150983cd24fb0d6963f7d28e17f72");
+    inline static const QString settingsFile = QStringLiteral("data/Kelvory/Orvanta/config/global.xml");
+
+    QString path(const QString &name) const { return m_folder->filePath(name); }
+
+    /// A file in the test's folder; returns its path.
+    QString write(const QString &name, const QByteArray &content) const
+    {
+        QDir().mkpath(QFileInfo(path(name)).path());
+        QFile file(path(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+            QTest::qFail("cannot write a test file", __FILE__, __LINE__);
+        return file.fileName();
+    }
+
+    /// The program from the build's own folder, where its catalogues are, with a data folder of its own.
+    void prepare(InspectedProgram &program) const
+    {
+        program.setVariable(str("XDG_DATA_HOME"), path(str("data")));
+        program.setVariable(str("LC_ALL"), str("en_US.UTF-8"));
+        program.setWorkingDirectory(m_folder->path());
+    }
+
+    /// Settings of a program that has been started before and shows no splash, and `more` of them.
+    static QByteArray settings(const QByteArray &more = {})
+    {
+        return "<Settings><IsFirstStart>false</IsFirstStart><DisableSplashScreen>true</DisableSplashScreen>" + more +
+               "</Settings>";
+    }
+
+    void writeSettings(const QByteArray &more = {}) const { write(settingsFile, settings(more)); }
+
+    /// The text of a saved setting, or "none".
+    QString saved(const QString &name, const QString &fileName = settingsFile) const
+    {
+        QFile file(path(fileName));
+        QDomDocument document;
+        if (!file.open(QIODevice::ReadOnly) || !document.setContent(&file))
+            return str("no settings");
+        QDomElement element = document.documentElement();
+        const QStringList parts = name.split(QLatin1Char('/'));
+        for (const QString &part : parts)
+            element = element.firstChildElement(part);
+        return element.isNull() ? str("none") : element.text();
+    }
+
+    static void waitUntilReady(InspectedProgram &program)
+    {
+        // The window is transparent until everything else is done.
+        QVERIFY(!program.waitForText(windowTitle, str("MainWindow"), "windowOpacity", str("1")).isNull());
+        QVERIFY(!program.waitForText(windowTitle, str("MainWindow"), "isActiveWindow", str("true")).isNull());
+    }
+
+    static void close(InspectedProgram &program)
+    {
+        pressKey(str("alt+F4"));
+        QCOMPARE(program.exitCode(), 0);
+    }
+
+private Q_SLOTS:
+    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
