@@ -7,7 +7,7 @@ build_packages=(
     qttranslations5-l10n qt5-style-plugin-plastique fonts-dejavu-core
 )
 test_packages=(
-    xvfb openbox xdotool x11-utils nginx-light zlib1g-dev
+    xvfb openbox xdotool wmctrl xclip x11-utils nginx-light zlib1g-dev
     qt6-base-dev libgl-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-translations-l10n
     python3 clang clang-format clang-tidy libclang-rt-14-dev valgrind strace
 )

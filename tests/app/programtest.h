@@ -73,13 +73,34 @@ protected:
         QVERIFY(!program.waitForText(windowTitle, str("MainWindow"), "isActiveWindow", str("true")).isNull());
     }
 
+    /// The most memory that a running program has had in use so far, in KiB.
+    static qint64 peakKibibytes(InspectedProgram &program)
+    {
+        QFile file(str("/proc/%1/status").arg(program.process().processId()));
+        if (!file.open(QIODevice::ReadOnly))
+            return -1;
+        const QByteArray status = file.readAll();
+        const auto start = status.indexOf("VmHWM:") + 6;
+        return status.mid(start, status.indexOf(" kB", start) - start).trimmed().toLongLong();
+    }
+
+    /// From the main window to the dialog of the options, with the keyboard.
+    static void openOptions(InspectedProgram &program)
+    {
+        click(program.waitForText(windowTitle, str("toolBar"), "visible", str("true"))); // beside the button: nothing
+        for (int i = 0; i < 5; ++i)
+            pressKey(str("Tab"));
+        pressKey(str("space"));
+        QVERIFY(!program.waitForWindow(str("Settings")).isNull());
+    }
+
     static void close(InspectedProgram &program)
     {
         pressKey(str("alt+F4"));
         QCOMPARE(program.exitCode(), 0);
     }
 
-private Q_SLOTS:
+protected Q_SLOTS:
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }
 
 private:

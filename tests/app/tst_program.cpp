@@ -155,11 +155,7 @@ private Q_SLOTS:
         prepare(program);
         program.start({});
         waitUntilReady(program);
-        click(program.waitForText(windowTitle, str("toolBar"), "visible", str("true"))); // beside the button: nothing
-        for (int i = 0; i < 5; ++i)
-            pressKey(str("Tab"));
-        pressKey(str("space"));
-        QVERIFY(!program.waitForWindow(str("Settings")).isNull());
+        openOptions(program);
         pressKey(str("Down"));
         QVERIFY(!program.waitForText(str("Settings"), str("stackedWidget"), "currentIndex", str("1")).isNull());
         const InspectedWidget list = program.waitForText(str("Settings"), str("listLocale"), "visible", str("true"));
@@ -183,10 +179,7 @@ private Q_SLOTS:
         program.setVariable(str("ORVANTA_INSPECTOR_PROXY"), QString::number(server.port()));
         program.start({});
         waitUntilReady(program);
-        for (int i = 0; i < 5; ++i)
-            pressKey(str("Tab"));
-        pressKey(str("space"));
-        QVERIFY(!program.waitForWindow(str("Settings")).isNull());
+        openOptions(program);
         click(program.waitForText(str("Settings"), str("pushButtonUpdate"), "visible", str("true")));
         const InspectedWidget box = program.waitForWindow(str("BrimTale 1.1.6.2"));
         QCOMPARE(box.property("text"), str("New version available: <b>Brimtale 1.1.6.3</b>"));

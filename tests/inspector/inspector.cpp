@@ -10,6 +10,7 @@
 #include <QMetaProperty>
 #include <QNetworkProxy>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTimer>
 #include <QWidget>
 #include <QWindow>
@@ -38,6 +39,8 @@ QJsonObject describe(const QWidget *widget)
         if (!value.isNull())
             properties.insert(QString::fromLatin1(property.name()), value);
     }
+    if (const auto bar = qobject_cast<const QStatusBar *>(widget))
+        properties.insert(QStringLiteral("message"), bar->currentMessage());
     description.insert(QStringLiteral("properties"), properties);
 
     const QPoint corner = widget->mapToGlobal(QPoint(0, 0));

@@ -4,17 +4,18 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QUrl>
+#include <QVector>
 
 namespace {
 
-/// A window that a file can be dragged out of, the way file managers offer one: as an address and as plain text.
+/// A window that files can be dragged out of, the way file managers offer them: as addresses and as plain text.
 class DragSource final : public QLabel
 {
 public:
-    explicit DragSource(QString fileName)
-        : m_fileName(std::move(fileName))
+    DragSource(const QString &fileName, int count)
     {
-        setText(m_fileName);
+        m_urls.fill(QUrl::fromLocalFile(fileName), count);
+        setText(fileName);
         setWindowTitle(QStringLiteral("drag source"));
         setGeometry(20, 20, 200, 60);
     }
@@ -25,25 +26,25 @@ protected:
     void mouseMoveEvent(QMouseEvent *) override
     {
         auto *mime = new QMimeData; // the drag owns it
-        const QUrl url = QUrl::fromLocalFile(m_fileName);
-        mime->setUrls({url});
-        mime->setText(url.toString());
+        mime->setUrls(m_urls.toList());
+        mime->setText(m_urls.first().toString());
         auto *drag = new QDrag(this); // deletes itself
         drag->setMimeData(mime);
         drag->exec(Qt::CopyAction);
     }
 
 private:
-    QString m_fileName;
+    QVector<QUrl> m_urls;
 };
 
 } // namespace
 
-/// dragsource FILE
+/// dragsource FILE [COUNT]: one file, or the same so many times.
 int main(int argc, char **argv)
 {
     const QApplication application(argc, argv);
-    DragSource source(QApplication::arguments().value(1));
+    const int count = qMax(1, QApplication::arguments().value(2).toInt());
+    DragSource source(QApplication::arguments().value(1), count);
     source.show();
     return QApplication::exec();
 }

@@ -197,6 +197,24 @@ void typeText(const QString &text)
     runXdotool({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("5"), text});
 }
 
+QStringList windowsCalled(const QString &title)
+{
+    QProcess search;
+    search.start(QStringLiteral("xdotool"), {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
+                                             QStringLiteral("--name"), QLatin1Char('^') + title + QLatin1Char('$')});
+    if (!search.waitForFinished())
+        QTest::qFail("xdotool does not end", __FILE__, __LINE__);
+    return QString::fromLatin1(search.readAllStandardOutput()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}
+
+void closeWindows(const QString &title)
+{
+    const QStringList windows = windowsCalled(title);
+    QVERIFY(!windows.isEmpty());
+    for (const QString &window : windows)
+        QCOMPARE(QProcess::execute(QStringLiteral("wmctrl"), {QStringLiteral("-i"), QStringLiteral("-c"), window}), 0);
+}
+
 void click(const InspectedWidget &widget)
 {
     runXdotool(moveTo(widget.geometry().center()) + QStringList{QStringLiteral("click"), QStringLiteral("1")});

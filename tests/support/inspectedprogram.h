@@ -16,7 +16,7 @@ public:
     bool isNull() const { return m_description.isEmpty(); }
     QString className() const;
     QString objectName() const { return property("objectName"); }
-    /// Any property of the widget as text; enumerators by their names.
+    /// Any property of the widget as text; enumerators by their names. A status bar has one more, "message".
     QString property(const char *name) const;
     /// Whether the window has been shown by the display; only windows have this.
     bool isExposed() const;
@@ -79,6 +79,12 @@ void pressKey(const QString &key);
 
 /// Types a text for the window that has the focus.
 void typeText(const QString &text);
+
+/// The windows of that title on the display, as it numbers them.
+QStringList windowsCalled(const QString &title);
+
+/// Asks all windows of that title to close, as their window manager does.
+void closeWindows(const QString &title);
 
 /// Clicks with the left button in the middle of a widget.
 void click(const InspectedWidget &widget);

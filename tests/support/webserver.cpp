@@ -85,3 +85,23 @@ void WebServer::write(const QString &name, const QByteArray &content)
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
         QTest::qFail("cannot write a file of the web server", __FILE__, __LINE__);
 }
+
+MisbehavingServer::MisbehavingServer(const QString &way)
+{
+    m_process.setReadChannel(QProcess::StandardOutput);
+    m_process.start(QStringLiteral(ORVANTA_MISBEHAVING_SERVER), {way});
+    m_port = static_cast<quint16>(nextLine().mid(5).toUInt());
+}
+
+MisbehavingServer::~MisbehavingServer()
+{
+    m_process.kill();
+    m_process.waitForFinished();
+}
+
+QByteArray MisbehavingServer::nextLine()
+{
+    for (int i = 0; i < 300 && !m_process.canReadLine(); ++i)
+        m_process.waitForReadyRead(100);
+    return m_process.readLine().trimmed();
+}

@@ -29,3 +29,20 @@ private:
     quint16 m_port;
     QProcess m_process;
 };
+
+/// A server on this machine that does what no server should; `way` says what (misbehavingserver.cpp).
+class MisbehavingServer final
+{
+public:
+    explicit MisbehavingServer(const QString &way);
+    ~MisbehavingServer();
+
+    quint16 port() const { return m_port; }
+    /// The next line that it prints, waited for at most 30 seconds: "request" and the request's first line, or "closed
+    /// after" and how many bytes it could send.
+    QByteArray nextLine();
+
+private:
+    QProcess m_process;
+    quint16 m_port;
+};
