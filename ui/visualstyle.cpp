@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QPalette>
+#include <QStyle>
 #include <QStyleFactory>
 
 namespace {
@@ -45,6 +46,8 @@ void VisualStyle::useWidgetStyle()
     const QString plastique = QStringLiteral("plastique");
     const bool isThere = QStyleFactory::keys().contains(plastique, Qt::CaseInsensitive);
     QApplication::setStyle(isThere ? plastique : QStringLiteral("fusion"));
+    // A desktop's own colours may be light on dark; the design is dark on light, and says so for a part of them only.
+    QApplication::setPalette(QApplication::style()->standardPalette());
 }
 
 void VisualStyle::apply()

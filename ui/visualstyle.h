@@ -6,7 +6,8 @@ class QAbstractItemView;
 namespace VisualStyle {
 
 /// Gives the application the widget style "plastique", or, where that is not to be had, its heir "fusion"; never the
-/// platform's own look, which the style sheet is not made for.
+/// platform's own look, which the style sheet is not made for. The colours are the style's, too, whatever those of the
+/// desktop are.
 void useWidgetStyle();
 
 /// Gives the application its palette and its style sheet; called once the widget style is set and before any window is
