@@ -9,7 +9,7 @@ build_packages=(
 test_packages=(
     xvfb openbox xdotool wmctrl xclip x11-utils nginx-light zlib1g-dev
     qt6-base-dev libgl-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-translations-l10n
-    python3 clang clang-format clang-tidy libclang-rt-14-dev valgrind strace
+    python3 clang clang-format clang-tidy libclang-rt-14-dev valgrind strace faketime tzdata imagemagick
 )
 bench_packages=(libssl-dev openssl clang g++-mingw-w64-x86-64-posix xvfb openbox x11-utils)
 windows_packages=(

@@ -59,7 +59,7 @@ protected:
                     folder.filePath(str("locale/orvanta-de_DE.qm")));
     }
 
-private Q_SLOTS:
+protected Q_SLOTS:
     void initTestCase()
     {
         QVERIFY(QDir::setCurrent(m_folder.path()));
