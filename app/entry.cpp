@@ -80,6 +80,9 @@ int run(const QString &commandLine)
     // Nothing here is drawn with OpenGL. Otherwise the toolkit would load it for the first window, which can take a
     // fifth of the whole start.
     QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets);
+    // Regular expressions are few and short here. Turned into machine code, they would need memory that can be both
+    // written and run.
+    qputenv("QT_ENABLE_REGEXP_JIT", "0");
     loadNoPluginsFromProgramFolder();
 
     // A folder exists too, so its path opens the window; that is meant.

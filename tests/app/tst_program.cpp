@@ -9,6 +9,13 @@ class TestProgram final : public ProgramTest
 {
     Q_OBJECT
 
+    // What lies in the program's memory, region by region.
+    static QByteArray memoryOf(InspectedProgram &program)
+    {
+        QFile maps(str("/proc/%1/maps").arg(program.process().processId()));
+        return maps.open(QIODevice::ReadOnly) ? maps.readAll() : QByteArray();
+    }
+
 private Q_SLOTS:
     void theFirstStartGreetsAndRemembersThat()
     {
@@ -63,9 +70,7 @@ private Q_SLOTS:
         prepare(program);
         program.start({});
         waitUntilReady(program);
-        QFile maps(str("/proc/%1/maps").arg(program.process().processId()));
-        QVERIFY(maps.open(QIODevice::ReadOnly));
-        const QByteArray libraries = maps.readAll();
+        const QByteArray libraries = memoryOf(program);
         QVERIFY(libraries.contains("libqxcb.so"));
         for (const char *name : {"glx-integration", "egl-integration", "_dri.so", "libLLVM"})
             QVERIFY2(!libraries.contains(name), name);
@@ -184,6 +189,9 @@ private Q_SLOTS:
         const InspectedWidget box = program.waitForWindow(str("BrimTale 1.1.6.2"));
         QCOMPARE(box.property("text"), str("New version available: <b>Brimtale 1.1.6.3</b>"));
         QCOMPARE(box.buttons(), (QStringList{str("Yes"), str("No")}));
+        // The reply has been searched by a regular expression, and that was not turned into code.
+        QVERIFY(memoryOf(program).contains(" r-xp "));
+        QVERIFY(!memoryOf(program).contains(" rwx"));
         pressKey(str("Escape"));
         QTRY_COMPARE_WITH_TIMEOUT(program.windows().size(), 2, 10000);
         pressKey(str("Escape"));

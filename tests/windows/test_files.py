@@ -52,6 +52,7 @@ class Executable(unittest.TestCase):
         self.assertGreater(len(self.pe.DIRECTORY_ENTRY_BASERELOC), 10)
         for section in self.pe.sections:
             self.assertFalse(section.IMAGE_SCN_MEM_WRITE and section.IMAGE_SCN_MEM_EXECUTE, section.Name)
+        self.assertIn(b"stack smashing detected", self.content)
 
     def test_its_version_is_told(self):
         fixed = self.pe.VS_FIXEDFILEINFO[0]
