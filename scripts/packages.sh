@@ -18,7 +18,7 @@ windows_packages=(
 )
 windows_test_packages=(
     wine64 fonts-wine xvfb openbox xdotool x11-utils xclip imagemagick
-    git python3-pefile clang-tidy
+    git python3-pefile clang-tidy strace
 )
 
 # install_missing PACKAGE...: quiet when nothing is missing.

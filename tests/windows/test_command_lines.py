@@ -1,9 +1,11 @@
 """The executable as a script sees it: exit codes, boxes, standard error. Runs without a display and with one."""
 
 import os
+import subprocess
 import unittest
 
-from support import (HAS_DISPLAY, MD5_OF_ABC, TestCase, command_lines, run_command_lines, unpack, windows_path)
+from support import (HAS_DISPLAY, MD5_OF_ABC, PATIENCE, WINE, TestCase, command_lines, run_command_lines, unpack,
+                     windows_path)
 
 RULE = "---------------------------\\n"
 # What cmd or "start" would take for its own.
@@ -85,6 +87,25 @@ class CommandLines(TestCase):
         self.assertGreater(len(folder), 260)
         self.assertEqual(self.codes(f"orv.exe /a md5 /c {MD5_OF_ABC} /f {folder}\\sample.bin",
                                     f"orv.exe /a md5 /c {MD5_OF_ABC} /f {windows_path(file)}"), [0, 0])
+
+    def test_what_is_no_file_is_an_error_at_once(self):
+        empty = "d41d8cd98f00b204e9800998ecf8427e"
+        for name in ("NUL", "CON", "CONIN$", "COM1", "\\\\.\\pipe\\none"):
+            [(code, _, _)] = run_command_lines([f"orv.exe /a md5 /c {empty} /f {name}"], self.place)
+            self.assertEqual(code, -1, name)
+
+    def test_no_plugin_is_looked_for_beside_it(self):
+        trace = self.place.parent / "trace"
+        self.write("qt.conf", "[Paths]\nPlugins = elsewhere\n")
+        for folder in ("platforms", "styles", "elsewhere/platforms", "elsewhere/styles"):
+            self.write(folder + "/planted.dll", "")
+        subprocess.run(["strace", "-f", "-e", "trace=file", "-o", str(trace), WINE, str(self.place / "orv.exe"), "/a", "md5",
+                        "/c", "0", "/f", "sample.bin"], cwd=self.place, stdout=subprocess.DEVNULL,
+                       stderr=subprocess.DEVNULL, timeout=PATIENCE)
+        asked = trace.read_text(errors="replace").lower()
+        self.assertIn("sample.bin", asked)
+        for name in ("qt.conf", "planted.dll", "elsewhere", "/platforms", "/styles", "/imageformats"):
+            self.assertNotIn(name, asked)
 
     def test_every_run_saves_settings_without_a_name_where_it_stands(self):
         self.assertEqual(self.codes("orv.exe /a md5 /c 0 /f sample.bin"), [1])
