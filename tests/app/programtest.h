@@ -109,6 +109,7 @@ protected Q_SLOTS:
     void init()
     {
         m_folder = std::make_unique<QTemporaryDir>();
+        parkMouse(); // a widget under it would have its say in the status bar
     }
 
 private:

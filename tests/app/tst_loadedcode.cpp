@@ -66,7 +66,6 @@ class TestLoadedCode final : public QObject
     void start(InspectedProgram &program, const QString &programFolder, const QStringList &arguments) const
     {
         program.setVariable(str("XDG_DATA_HOME"), path(str("data")));
-        program.setVariable(str("ASAN_OPTIONS"), str("verify_asan_link_order=0:detect_leaks=0")); // nor while traced
         program.setWorkingDirectory(path(str("working")));
         program.start(QStringList{str("-f"), str("-e"), str("trace=file"), str("-o"), traceFile(),
                                   path(programFolder + str("/orv"))} +

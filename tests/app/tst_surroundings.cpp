@@ -92,6 +92,7 @@ private Q_SLOTS:
         program.setVariable(str("ORVANTA_INSPECTOR_PROXY"), QString::number(server.port()));
         program.setVariable(str("LD_PRELOAD"), str("/usr/lib/x86_64-linux-gnu/faketime/libfaketime.so.1 ") +
                                                    qEnvironmentVariable("LD_PRELOAD"));
+        program.searchForNoLeaks();
         program.setVariable(str("FAKETIME_TIMESTAMP_FILE"), path(str("clock")));
         program.setVariable(str("FAKETIME_NO_CACHE"), str("1"));
         program.setVariable(str("DONT_FAKE_MONOTONIC"), str("1"));

@@ -90,6 +90,12 @@ void InspectedProgram::removeVariable(const QString &name)
     m_environment.remove(name);
 }
 
+void InspectedProgram::searchForNoLeaks()
+{
+    setVariable(QStringLiteral("ASAN_OPTIONS"),
+                qEnvironmentVariable("ASAN_OPTIONS") + QLatin1String(":detect_leaks=0"));
+}
+
 void InspectedProgram::start(const QStringList &arguments)
 {
     m_process.setProcessEnvironment(m_environment);
@@ -218,6 +224,11 @@ void closeWindows(const QString &title)
 void click(const InspectedWidget &widget)
 {
     runXdotool(moveTo(widget.geometry().center()) + QStringList{QStringLiteral("click"), QStringLiteral("1")});
+}
+
+void parkMouse()
+{
+    runXdotool({QStringLiteral("mousemove"), QStringLiteral("0"), QStringLiteral("0")});
 }
 
 void dragMouse(const QRect &from, const QRect &to)

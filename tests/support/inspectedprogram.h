@@ -42,6 +42,8 @@ public:
     void setWorkingDirectory(const QString &folder) { m_process.setWorkingDirectory(folder); }
     void setVariable(const QString &name, const QString &value);
     void removeVariable(const QString &name);
+    /// Does without the search for leaks that a build with sanitizers ends in: it finds those of a preloaded library.
+    void searchForNoLeaks();
     /// Binds the program by the permissions of files also when the test runs as root.
     void bindByPermissions() { m_bound = true; }
 
@@ -88,6 +90,9 @@ void closeWindows(const QString &title);
 
 /// Clicks with the left button in the middle of a widget.
 void click(const InspectedWidget &widget);
+
+/// Puts the mouse where no window is.
+void parkMouse();
 
 /// Presses the left button in the middle of a rectangle on the screen, moves to the middle of another in small steps,
 /// and releases it.
