@@ -12,6 +12,14 @@ bool writeAll(QFileDevice &file, const QByteArray &content)
     return file.write(content) == content.size() && file.flush() && file.error() == QFileDevice::NoError;
 }
 
+// Then there is nothing to be done: most runs change no setting, and a disk takes its time to be sure of what it wrote.
+bool holdsAlready(const QFileInfo &info, const QByteArray &content)
+{
+    QFile file(info.filePath());
+    return info.isWritable() && info.size() == content.size() && file.open(QIODevice::ReadOnly) &&
+           file.read(content.size() + 1) == content;
+}
+
 ReplaceResult overwriteInPlace(const QString &fileName, const QByteArray &content)
 {
     QFile file(fileName);
@@ -40,6 +48,8 @@ ReplaceResult replaceFile(const QString &fileName, const QByteArray &content)
     const QFileInfo info(fileName);
     if (info.exists() && !info.isFile())
         return ReplaceResult::NotOpened;
+    if (info.exists() && holdsAlready(info, content))
+        return ReplaceResult::Replaced;
 
     QSaveFile file(fileName);
     if (!file.open(QIODevice::WriteOnly))

@@ -99,9 +99,28 @@ protected:
         QVERIFY(!program.waitForWindow(str("Settings")).isNull());
     }
 
+    /// Drags a file, so many times over, out of another program's window and drops it on the upper group.
+    void drop(InspectedProgram &program, const QString &file, int count) const
+    {
+        InspectedProgram source(QStringLiteral(ORVANTA_DRAG_SOURCE));
+        prepare(source);
+        source.start({file, QString::number(count)});
+        const InspectedWidget from = source.waitForWindow(str("drag source"));
+        QVERIFY(!from.isNull());
+        const InspectedWidget to = program.waitForText(windowTitle, str("lineEditPath"), "text", QString());
+        QVERIFY(!from.geometry().intersects(to.geometry()));
+        dragMouse(from.geometry(), to.geometry());
+        // The source hands over what is dropped, and has to be there for that.
+        QVERIFY(!program.waitForText(windowTitle, str("lineEditPath"), "text", file).isNull());
+    }
+
     static void close(InspectedProgram &program)
     {
-        pressKey(str("alt+F4"));
+        // The window manager may miss a key while it is busy with a window that has just come.
+        for (int i = 0; i < 3 && program.isRunning(); ++i) {
+            pressKey(str("alt+F4"));
+            program.process().waitForFinished(10000);
+        }
         QCOMPARE(program.exitCode(), 0);
     }
 

@@ -140,17 +140,8 @@ private Q_SLOTS:
         prepare(program);
         program.start({});
         waitUntilReady(program);
-        InspectedProgram source(QStringLiteral(ORVANTA_DRAG_SOURCE));
-        prepare(source);
-        source.process().setWorkingDirectory(path(QString()));
-        source.start({file});
-        const InspectedWidget from = source.waitForWindow(str("drag source"));
-        QVERIFY(!from.isNull());
-        const InspectedWidget to = program.waitForText(windowTitle, str("lineEditPath"), "text", QString());
-        QVERIFY(!from.geometry().intersects(to.geometry()));
-        dragMouse(from.geometry(), to.geometry());
+        drop(program, file, 1);
         QVERIFY(!program.waitForText(windowTitle, str("lineEditCheckSumOut"), "text", md5OfAbc).isNull());
-        QVERIFY(!program.waitForText(windowTitle, str("lineEditPath"), "text", file).isNull());
     }
 
     void theLanguageIsSwitchedInTheOptions()

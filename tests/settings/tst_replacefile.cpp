@@ -104,6 +104,24 @@ private Q_SLOTS:
         QCOMPARE(files(), QStringList{QStringLiteral("file")});
     }
 
+    void aFileWithThatContentIsLeftAsItIs()
+    {
+        const auto number = [this] {
+            struct stat status
+            {
+            };
+            ::stat(QFile::encodeName(path()).constData(), &status);
+            return status.st_ino;
+        };
+        write(path(), "content");
+        const auto before = number();
+        QCOMPARE(replaceFile(path(), "content"), ReplaceResult::Replaced);
+        QCOMPARE(number(), before);
+        QCOMPARE(replaceFile(path(), "contend"), ReplaceResult::Replaced);
+        QVERIFY(number() != before);
+        QCOMPARE(contentOf(path()), QByteArray("contend"));
+    }
+
     void permissionsStay()
     {
         write(path(), "old", 0640);
@@ -142,9 +160,12 @@ private Q_SLOTS:
 
     void aReadOnlyFileIsLeftAlone()
     {
-        write(path(), "old", 0444);
-        QCOMPARE(replaceBound(path(), 3), QByteArray("not opened"));
-        QCOMPARE(contentOf(path()), QByteArray("old"));
+        for (const char *content : {"old", "nnn"}) { // "nnn" is what it would get
+            QFile::remove(path());
+            write(path(), content, 0444);
+            QCOMPARE(replaceBound(path(), 3), QByteArray("not opened"));
+            QCOMPARE(contentOf(path()), QByteArray(content));
+        }
     }
 
     void aFileInAReadOnlyFolderIsOverwrittenInPlace()
