@@ -15,8 +15,9 @@ constexpr qint32 valid = 0;
 constexpr qint32 invalid = 1;
 constexpr qint32 error = -1;
 
-// How much of what was typed is shown. A box grows with its text, out of every screen.
-constexpr int longestInBox = 1000;
+// How much of what was typed is shown: all that a command line can be on Windows. Elsewhere it can be megabytes, which
+// take minutes to lay out.
+constexpr int longestInBox = 32767;
 
 const QLatin1String title("Command Line Interface");
 

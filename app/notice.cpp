@@ -2,7 +2,26 @@
 
 #include "app/display.h"
 
+#include <QGuiApplication>
+#include <QLabel>
+#include <QScreen>
+
 #include <cstdio>
+
+namespace {
+
+// A box grows with its text, out of every screen. What does not fit is cut off at its end.
+void keepOnScreen(QMessageBox &box)
+{
+    auto *label = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
+    if (!label)
+        return;
+    label->setMaximumHeight(QGuiApplication::primaryScreen()->availableSize().height() / 2);
+    if (box.text().size() > 200) // a short one stands in the middle, beside the icon
+        label->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+}
+
+} // namespace
 
 void show(const Notice &notice)
 {
@@ -12,6 +31,7 @@ void show(const Notice &notice)
     }
     QMessageBox box(notice.icon, notice.title, notice.text, QMessageBox::Ok);
     box.setTextFormat(notice.format);
+    keepOnScreen(box);
     box.exec();
 }
 

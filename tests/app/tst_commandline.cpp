@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 
@@ -45,6 +46,17 @@ private Q_SLOTS:
             QCOMPARE(box.icon(), QMessageBox::Information);
             QCOMPARE(box.standardButtons(), QMessageBox::StandardButtons(QMessageBox::Ok));
             QCOMPARE(box.parent(), nullptr);
+        });
+        QCOMPARE(code, -1);
+    }
+
+    void aLongCommandLineIsThereAsAWhole()
+    {
+        const QString line = QStringLiteral("/x ") + QStringLiteral("word ").repeated(6000);
+        const qint32 code = runAndLook(line, [&line](QMessageBox &box) {
+            QVERIFY(box.text().contains(line));
+            const QSize screen = box.screen()->availableSize();
+            QVERIFY(box.width() <= screen.width() && box.height() < screen.height());
         });
         QCOMPARE(code, -1);
     }
