@@ -16,7 +16,7 @@ constexpr qint32 invalid = 1;
 constexpr qint32 error = -1;
 
 // How much of what was typed is shown: all that a command line can be on Windows. Elsewhere it can be megabytes, which
-// take minutes to lay out.
+// nobody reads and which take their time to be laid out.
 constexpr int longestInBox = 32767;
 
 const QLatin1String title("Command Line Interface");

@@ -24,7 +24,8 @@ logs=$(mktemp -d)
 # Regular expressions in machine code look further than their text goes, where that does no harm.
 export LC_ALL=C.UTF-8 QT_ENABLE_REGEXP_JIT=0 logs
 under_valgrind() {
-    timeout 3000 tests/support/with-display valgrind --trace-children=yes --num-callers=30 --leak-check=no --suppressions="$PWD/tests/support/valgrind.supp" \
+    timeout 3000 tests/support/with-display valgrind --trace-children=yes --num-callers=30 --leak-check=no \
+        --suppressions="$PWD/tests/support/valgrind.supp" \
         --trace-children-skip='*/xdotool,*/nginx,*/wmctrl,*/import*,*/xclip,*/losetup,*/sh,*/bash,*/md5sum,*/sha1sum,*/head,*/python3*' \
         --log-file="$logs/$1-%p" "build/release/tests/bin/$1/tst_$1" >"$logs/output-$1" 2>&1 || true
     echo "$1: $(tail -n 2 "$logs/output-$1" | head -n 1)"

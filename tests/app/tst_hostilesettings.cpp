@@ -1,6 +1,5 @@
 #include "tests/app/programtest.h"
 
-#include <QElapsedTimer>
 #include <QRandomGenerator>
 
 #include <sys/stat.h>

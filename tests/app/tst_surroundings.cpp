@@ -1,8 +1,6 @@
 #include "tests/app/programtest.h"
 #include "tests/support/webserver.h"
 
-#include <QDate>
-
 /// The built executable where its surroundings fail it: the clock, the fonts, the colours, the screen.
 class TestSurroundings final : public ProgramTest
 {

@@ -354,6 +354,23 @@ private Q_SLOTS:
         }
     }
 
+    void aToolBarBesideTheWindowComesBackWithinReach()
+    {
+        makeWindow();
+        auto *toolBar = m_window->findChild<QToolBar *>(str("toolBar"));
+        toolBar->setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint);
+        toolBar->setGeometry(-3000, -3000, 900, 800);
+        toolBar->show();
+        QVERIFY(toolBar->isFloating());
+        setSetting(WindowRestoreLayout, true);
+        m_window.reset();
+        makeWindow();
+        toolBar = m_window->findChild<QToolBar *>(str("toolBar"));
+        QVERIFY(toolBar->isFloating());
+        QCOMPARE(toolBar->pos(), QPoint(50, 50));
+        QVERIFY(toolBar->width() < 900 && toolBar->height() < 800);
+    }
+
     void theOpacityIsStoredWithTwoDecimals_data()
     {
         QTest::addColumn<double>("opacity");
